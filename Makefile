@@ -1,0 +1,48 @@
+# make run   installs what is missing, builds, starts the program (xsmm.dat beside it in build/)
+# make test  installs what is missing, builds, runs every test, then again under ASan+UBSan
+# make bench builds and runs the benchmarks
+
+BUILD      := build
+ASAN_BUILD := build-asan
+JOBS       ?= $(shell nproc)
+
+.PHONY: deps build build-asan run test test-plain test-asan bench format clean
+
+deps:
+	@./scripts/install-deps.sh
+
+$(BUILD)/build.ninja:
+	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+
+$(ASAN_BUILD)/build.ninja:
+	cmake -S . -B $(ASAN_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DSM_SANITIZE=ON
+
+build: deps $(BUILD)/build.ninja
+	cmake --build $(BUILD) -j $(JOBS)
+
+build-asan: deps $(ASAN_BUILD)/build.ninja
+	cmake --build $(ASAN_BUILD) -j $(JOBS)
+
+run: build
+	@if [ -n "$$DISPLAY" ] || [ -n "$$WAYLAND_DISPLAY" ]; then \
+	  cd $(BUILD) && ./serbestmeslek; \
+	else \
+	  cd $(BUILD) && xvfb-run -a -s "-screen 0 1280x800x24" ./serbestmeslek; \
+	fi
+
+test-plain: build
+	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+test-asan: build-asan
+	cd $(ASAN_BUILD) && ctest --output-on-failure -j $(JOBS)
+
+test: test-plain test-asan
+
+bench: build
+	$(BUILD)/bench/bench_datastore
+
+format:
+	find src tests bench -name '*.cpp' -o -name '*.h' | xargs clang-format -i
+
+clean:
+	rm -rf $(BUILD) $(ASAN_BUILD)

@@ -1,0 +1,193 @@
+// The data store at the size of a busy practice's lifetime: 1,000,000 account transactions over
+// 10,000 accounts. Prints medians of the access layer's everyday work, and the general
+// debit/credit aggregate through QueryOpen beside the same statement on the raw engine.
+
+#include "core/AccessLayer.h"
+#include "core/DataFiles.h"
+#include "core/SqlFunctions.h"
+#include "money/DayNumber.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <random>
+#include <vector>
+
+namespace {
+
+constexpr int accounts = 10000;
+constexpr int transactions = 1000000;
+constexpr int bigAccountRows = 30000;
+
+QString accountCode(int i)
+{
+    return QStringLiteral("K%1").arg(i, 5, 10, QLatin1Char('0'));
+}
+
+double medianMicroseconds(int runs, const std::function<void()> &work)
+{
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        times.push_back(double(timer.nsecsElapsed()) / 1000.0);
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+bool run(sqlite3 *db, const char *sql)
+{
+    return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+// The synthetic book, written straight through the engine in one transaction.
+bool fillBook(sqlite3 *db)
+{
+    std::mt19937 random(20261123);
+    std::uniform_int_distribution<int> account(1, accounts - 1);
+    std::uniform_int_distribution<int> day(int(DayNumber(QDate(2020, 1, 1))), int(DayNumber(QDate(2026, 12, 31))));
+    std::uniform_int_distribution<int> side(0, 1);
+    std::uniform_int_distribution<qint64> amount(1, 50000000);
+    run(db, "BEGIN");
+    sqlite3_stmt *card = nullptr;
+    sqlite3_prepare_v2(db, "INSERT INTO carkart (kod, unv) VALUES (?1, ?2)", -1, &card, nullptr);
+    for (int i = 0; i < accounts; ++i) {
+        const QByteArray code = accountCode(i).toUtf8();
+        const QByteArray title = QStringLiteral("Müşteri %1").arg(i).toUtf8();
+        sqlite3_bind_text(card, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(card, 2, title.constData(), int(title.size()), SQLITE_TRANSIENT);
+        sqlite3_step(card);
+        sqlite3_reset(card);
+    }
+    sqlite3_finalize(card);
+    sqlite3_stmt *row = nullptr;
+    sqlite3_prepare_v2(db, "INSERT INTO carhar (kod, tarih, islem, evrak, ack, ba, tutar) VALUES (?1, ?2, 2, 'E1', 'Danışmanlık', ?3, ?4)", -1, &row, nullptr);
+    for (int i = 0; i < transactions; ++i) {
+        const QByteArray code = accountCode(i < bigAccountRows ? 0 : account(random)).toUtf8();
+        sqlite3_bind_text(row, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_int64(row, 2, day(random));
+        sqlite3_bind_int(row, 3, side(random));
+        sqlite3_bind_int64(row, 4, amount(random));
+        if (sqlite3_step(row) != SQLITE_DONE)
+            return false;
+        sqlite3_reset(row);
+    }
+    sqlite3_finalize(row);
+    return run(db, "COMMIT") && run(db, "ANALYZE");
+}
+
+const QString aggregateSql = QStringLiteral(
+    "SELECT carhar.kod, sum(carhar.tutar * (carhar.ba = 0)) AS brctop, sum(carhar.tutar * (carhar.ba <> 0)) AS alatop "
+    "FROM carhar WHERE carhar.kod >= ?1 AND carhar.kod <= ?2 AND carhar.tarih >= ?3 AND carhar.tarih <= ?4 "
+    "GROUP BY carhar.kod ORDER BY carhar.kod");
+
+QVariantList aggregateValues()
+{
+    return {accountCode(1000), accountCode(8999), DayNumber(QDate(2022, 1, 1)), DayNumber(QDate(2025, 12, 31))};
+}
+
+qint64 aggregateThroughLayer(Database &db)
+{
+    std::unique_ptr<Recordset> rows;
+    qint64 total = 0;
+    if (QueryOpen(db, rows, aggregateSql, aggregateValues())) {
+        do
+            total += FieldRead(*rows, QStringLiteral("brctop")).toLongLong();
+        while (RsNext(*rows));
+    }
+    return total;
+}
+
+qint64 aggregateRaw(sqlite3 *db)
+{
+    sqlite3_stmt *stmt = nullptr;
+    const QByteArray sql = aggregateSql.toUtf8();
+    sqlite3_prepare_v2(db, sql.constData(), -1, &stmt, nullptr);
+    const QVariantList values = aggregateValues();
+    const QByteArray from = values[0].toString().toUtf8();
+    const QByteArray to = values[1].toString().toUtf8();
+    sqlite3_bind_text(stmt, 1, from.constData(), int(from.size()), SQLITE_TRANSIENT);
+    sqlite3_bind_text(stmt, 2, to.constData(), int(to.size()), SQLITE_TRANSIENT);
+    sqlite3_bind_int64(stmt, 3, values[2].toLongLong());
+    sqlite3_bind_int64(stmt, 4, values[3].toLongLong());
+    qint64 total = 0;
+    while (sqlite3_step(stmt) == SQLITE_ROW)
+        total += sqlite3_column_int64(stmt, 1);
+    sqlite3_finalize(stmt);
+    return total;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QTemporaryDir dir;
+    SetProgramFolder(dir.path());
+    if (!CreateDataFiles() || !OpenDataFiles()) {
+        std::fprintf(stderr, "cannot create the book\n");
+        return 1;
+    }
+    QElapsedTimer fillTimer;
+    fillTimer.start();
+    if (!fillBook(dataFiles().db->handle())) {
+        std::fprintf(stderr, "cannot fill the book\n");
+        return 1;
+    }
+    std::printf("book: %d accounts, %d transactions, filled in %.1f s\n", accounts, transactions,
+                double(fillTimer.elapsed()) / 1000.0);
+
+    Recordset &carhar = *dataFiles().carhar;
+    std::mt19937 random(7);
+    std::uniform_int_distribution<int> oto(1, transactions);
+    const double seek = medianMicroseconds(5001, [&] { RsSeek(carhar, QStringLiteral("oto"), oto(random)); });
+
+    int walked = 0;
+    const double walk = medianMicroseconds(5, [&] {
+        walked = 0;
+        const QString code = accountCode(0);
+        if (!RsSeek(carhar, QStringLiteral("kodtarih"), code))
+            return;
+        do
+            ++walked;
+        while (RsNext(carhar) && FieldRead(carhar, QStringLiteral("kod")).toString() == code);
+    });
+
+    sqlite3 *raw = nullptr;
+    sqlite3_open_v2(DataFilePath().toUtf8().constData(), &raw, SQLITE_OPEN_READONLY, nullptr);
+    registerSqlFunctions(raw);
+    qint64 layerTotal = 0;
+    qint64 rawTotal = 0;
+    const double layer = medianMicroseconds(7, [&] { layerTotal = aggregateThroughLayer(*dataFiles().db); });
+    const double engine = medianMicroseconds(7, [&] { rawTotal = aggregateRaw(raw); });
+    sqlite3_close(raw);
+
+    Recordset &carkart = *dataFiles().carkart;
+    int serial = 0;
+    const double insert = medianMicroseconds(51, [&] {
+        RsAddNew(carkart);
+        FieldWrite(carkart, QStringLiteral("kod"), QStringLiteral("Y%1").arg(++serial));
+        RsUpdate(carkart);
+    });
+
+    std::printf("%-52s %12s %10s\n", "operation (median)", "time", "target");
+    std::printf("%-52s %9.1f us %10s\n", "RsSeek on carhar.oto", seek, "<= 50 us");
+    std::printf("%-52s %9.1f ms %10s\n", QStringLiteral("walk one account's %1 rows in (kod, tarih) order").arg(walked).toUtf8().constData(), walk / 1000.0, "");
+    std::printf("%-52s %9.1f ms %10s\n", "debit/credit aggregate through QueryOpen", layer / 1000.0, "");
+    std::printf("%-52s %9.1f ms %10s\n", "the same statement on the raw sqlite3 API", engine / 1000.0, "");
+    std::printf("%-52s %9.2f x  %10s\n", "ratio layer / raw", layer / engine, "<= 1.3 x");
+    std::printf("%-52s %9.2f ms %10s\n", "durable single-row insert (RsAddNew..RsUpdate)", insert / 1000.0, "<= 20 ms");
+    if (layerTotal != rawTotal) {
+        std::fprintf(stderr, "the two aggregates differ: %lld and %lld\n", layerTotal, rawTotal);
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+// The only way from the screens to the data file. Every operation traps the engine's errors
+// and answers with its documented result; only QueryOpen shows a message of its own.
+//
+// SQL texts are SQLite's dialect with the program's additions: text compares in Turkish order
+// (collation TR, declared on every text field), year(day number), dates as whole day numbers.
+// A true comparison is 1, not -1. Values typed by the user are never spliced into SQL: they go
+// in as the values of ?1, ?2 … placeholders.
+
+#include "core/Database.h"
+#include "core/FieldDef.h"
+#include "core/Recordset.h"
+#include "core/TableDef.h"
+
+#include <QVariant>
+
+#include <memory>
+
+bool DbOpen(std::unique_ptr<Database> &db, const QString &path);
+bool DbCreate(std::unique_ptr<Database> &db, const QString &path);
+
+bool RsOpen(Database &db, std::unique_ptr<Recordset> &rs, const QString &table);
+qint64 RsCount(Recordset &rs);
+bool RsFirst(Recordset &rs);
+bool RsLast(Recordset &rs);
+bool RsPrev(Recordset &rs);
+bool RsNext(Recordset &rs);
+bool RsSeek(Recordset &rs, const QString &indexName, const QVariant &key);
+bool RsEdit(Recordset &rs);
+bool RsAddNew(Recordset &rs);
+bool RsUpdate(Recordset &rs);
+bool RsDelete(Recordset &rs);
+// The current record's value, Null read as "" (Text, Date), Null (binary) or 0 (the rest);
+// the Long value 1 when there is no current record or no such field.
+QVariant FieldRead(const Recordset &rs, const QString &fieldName);
+void FieldWrite(Recordset &rs, const QString &fieldName, const QVariant &value);
+bool RsEof(const Recordset &rs);
+
+// Opens the rows of a SELECT. False for no rows (silently) and for a statement the engine
+// refuses (after "Sql Rapor Yaratılamıyor").
+bool QueryOpen(Database &db, std::unique_ptr<Recordset> &rs, const QString &sql, const QVariantList &values = {});
+bool SqlExecute(Database &db, const QString &sql, const QVariantList &values = {});
+
+bool TableCreate(Database &db, std::unique_ptr<TableDef> &table, const QString &name);
+bool FieldCreate(TableDef &table, const QString &name, int typeCode, bool required, bool allowZeroLength,
+                 int attributes, int size);
+// fields: the index's field names separated by ";".
+bool IndexCreate(TableDef &table, const QString &name, const QString &fields, bool unique, bool primary,
+                 bool ignoreNulls, bool required);
+bool TableAppend(Database &db, TableDef &table);
+
+// The engine's field attribute that makes a Long an auto-number.
+constexpr int AutoIncrementField = 16;

@@ -1,0 +1,165 @@
+#include "core/DataFiles.h"
+
+#include "core/AccessLayer.h"
+#include "core/Message.h"
+
+#include <QDir>
+
+namespace {
+
+struct FieldSpec
+{
+    const char16_t *name;
+    FieldType type;
+    int size;
+    bool required;
+    int attributes;
+};
+
+struct IndexSpec
+{
+    const char16_t *name;
+    const char16_t *fields;
+    bool unique;
+    bool primary;
+    bool required;
+};
+
+struct TableSpec
+{
+    const char16_t *name;
+    const char16_t *createCaption;
+    const char16_t *appendCaption;
+    std::vector<FieldSpec> fields;
+    std::vector<IndexSpec> indexes;
+};
+
+const std::vector<TableSpec> &schema()
+{
+    static const std::vector<TableSpec> tables = {
+        {u"genel", u"Genel ", u"Genel ",
+         {{u"kod", FieldType::Text, 8, true, 0}, {u"sing", FieldType::Single, 0, false, 0},
+          {u"byt", FieldType::Byte, 0, false, 0}, {u"integ", FieldType::Integer, 0, false, 0},
+          {u"curren", FieldType::Currency, 0, false, 0}, {u"txt", FieldType::Text, 40, false, 0}},
+         {{u"kod", u"kod", true, true, true}}},
+        {u"carkart", u"Cari Kart ", u"Carkart ",
+         {{u"kod", FieldType::Text, 8, true, 0}, {u"unv", FieldType::Text, 50, false, 0},
+          {u"adr1", FieldType::Text, 50, false, 0}, {u"adr2", FieldType::Text, 50, false, 0},
+          {u"vd", FieldType::Text, 15, false, 0}, {u"vn", FieldType::Text, 15, false, 0},
+          {u"ucret", FieldType::Currency, 0, false, 0}, {u"tip", FieldType::Byte, 0, false, 0},
+          {u"not1", FieldType::Text, 50, false, 0}, {u"not2", FieldType::Text, 50, false, 0},
+          {u"not3", FieldType::Text, 50, false, 0}, {u"not4", FieldType::Text, 50, false, 0}},
+         {{u"kod", u"kod", true, true, true}}},
+        {u"carhar", u"Cari Hareket ", u"Carhar ",
+         {{u"kod", FieldType::Text, 8, true, 0}, {u"tarih", FieldType::Date, 0, false, 0},
+          {u"islem", FieldType::Byte, 0, false, 0}, {u"evrak", FieldType::Text, 8, false, 0},
+          {u"ack", FieldType::Text, 40, false, 0}, {u"ba", FieldType::Byte, 0, false, 0},
+          {u"tutar", FieldType::Currency, 0, false, 0}, {u"oto", FieldType::Long, 0, false, AutoIncrementField}},
+         // kodtarih serves the account listings and balances, which read one account's rows by date.
+         {{u"oto", u"oto", false, true, false}, {u"kodtarih", u"kod;tarih", false, false, false}}},
+        {u"defter", u"Meslek Defteri ", u"Meslek Defteri ",
+         {{u"sira", FieldType::Integer, 0, false, 0}, {u"tarih", FieldType::Date, 0, false, 0},
+          {u"islem", FieldType::Byte, 0, false, 0}, {u"evrak", FieldType::Text, 8, false, 0},
+          {u"cari", FieldType::Text, 8, false, 0}, {u"ack", FieldType::Text, 40, false, 0},
+          {u"brut", FieldType::Currency, 0, false, 0}, {u"stopaj", FieldType::Currency, 0, false, 0},
+          {u"fon", FieldType::Currency, 0, false, 0}, {u"kdv", FieldType::Currency, 0, false, 0},
+          {u"oto", FieldType::Long, 0, false, AutoIncrementField}},
+         {{u"oto", u"oto", false, true, false}}},
+        {u"duzen", u"Dizayn ", u"Dizayn ",
+         {{u"sira", FieldType::Long, 0, true, AutoIncrementField}, {u"no", FieldType::Integer, 0, false, 0},
+          {u"uzun", FieldType::Single, 0, false, 0}, {u"sol", FieldType::Single, 0, false, 0},
+          {u"ust", FieldType::Single, 0, false, 0}, {u"txt", FieldType::Text, 40, false, 0}},
+         {{u"sira", u"sira", false, true, false}}},
+    };
+    return tables;
+}
+
+QString &programFolder()
+{
+    static QString folder;
+    return folder;
+}
+
+bool createTable(Database &db, const TableSpec &spec)
+{
+    std::unique_ptr<TableDef> table;
+    if (!TableCreate(db, table, QString::fromUtf16(spec.name))) {
+        Message::exclamation(QString::fromUtf16(spec.createCaption) + QStringLiteral("\nSql Tablosu Yaratılamadı."));
+        return false;
+    }
+    for (const FieldSpec &field : spec.fields)
+        FieldCreate(*table, QString::fromUtf16(field.name), int(field.type), field.required, true,
+                    field.attributes, field.size);
+    for (const IndexSpec &index : spec.indexes)
+        IndexCreate(*table, QString::fromUtf16(index.name), QString::fromUtf16(index.fields), index.unique,
+                    index.primary, false, index.required);
+    if (!TableAppend(db, *table)) {
+        Message::exclamation(QString::fromUtf16(spec.appendCaption) + QStringLiteral("\nSql Tablosu eklenemedi."));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+DataFiles &dataFiles()
+{
+    static DataFiles files;
+    return files;
+}
+
+QString ProgramFolder()
+{
+    return programFolder();
+}
+
+void SetProgramFolder(const QString &folder)
+{
+    programFolder() = folder.endsWith(QDir::separator()) || folder.endsWith(u'/') ? folder : folder + u'/';
+}
+
+QString DataFilePath()
+{
+    return ProgramFolder() + QStringLiteral("xsmm.dat");
+}
+
+bool OpenDataFiles()
+{
+    CloseDataFiles();
+    DataFiles &files = dataFiles();
+    return DbOpen(files.db, DataFilePath()) && RsOpen(*files.db, files.genel, QStringLiteral("genel"))
+        && RsOpen(*files.db, files.carkart, QStringLiteral("carkart"))
+        && RsOpen(*files.db, files.carhar, QStringLiteral("carhar"))
+        && RsOpen(*files.db, files.defter, QStringLiteral("defter"))
+        && RsOpen(*files.db, files.duzen, QStringLiteral("duzen"));
+}
+
+bool CreateDataFiles()
+{
+    CloseDataFiles();
+    DataFiles &files = dataFiles();
+    if (!DbCreate(files.db, DataFilePath())) {
+        Message::exclamation(QStringLiteral("\nSql Dosyası Yaratılamadı."));
+        return false;
+    }
+    for (const TableSpec &table : schema())
+        if (!createTable(*files.db, table))
+            return false;
+    return true;
+}
+
+void CloseDataFiles()
+{
+    DataFiles &files = dataFiles();
+    files.genel.reset();
+    files.carkart.reset();
+    files.carhar.reset();
+    files.defter.reset();
+    files.duzen.reset();
+    files.db.reset();
+}
+
+bool CariExists(const QString &code)
+{
+    return RsSeek(*dataFiles().carkart, QStringLiteral("kod"), code);
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+// Every message box of the program: title "Quandel" and the icon of its kind. Tests install a
+// responder that records the message and answers in place of a person.
+namespace Message {
+
+enum class Kind { Exclamation, Information, Question };
+
+// Refusals and failures.
+void exclamation(const QString &text);
+// Notices.
+void information(const QString &text);
+// A Yes/No question; true for Yes.
+bool question(const QString &text);
+
+// Answers every following message instead of a box (an empty function restores the boxes).
+// For a question the responder's result is the answer; for the others it is ignored.
+using Responder = std::function<bool(Kind kind, const QString &text)>;
+void setResponder(Responder responder);
+
+} // namespace Message

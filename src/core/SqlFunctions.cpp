@@ -1,0 +1,57 @@
+#include "core/SqlFunctions.h"
+
+#include "money/DayNumber.h"
+
+#include <QCollator>
+#include <QLocale>
+#include <QStringDecoder>
+#include <QVarLengthArray>
+
+#include <sqlite3.h>
+
+#include <cstring>
+
+namespace {
+
+const QCollator &turkishCollator()
+{
+    static const QCollator collator = [] {
+        QCollator c(QLocale(QLocale::Turkish, QLocale::Turkey));
+        c.setCaseSensitivity(Qt::CaseInsensitive);
+        return c;
+    }();
+    return collator;
+}
+
+int compareTurkish(void *, int length1, const void *text1, int length2, const void *text2)
+{
+    if (length1 == length2 && std::memcmp(text1, text2, size_t(length1)) == 0)
+        return 0;
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QVarLengthArray<QChar, 256> a(length1 + 1);
+    QVarLengthArray<QChar, 256> b(length2 + 1);
+    const QChar *endA = decoder.appendToBuffer(a.data(), QByteArrayView(static_cast<const char *>(text1), length1));
+    const QChar *endB = decoder.appendToBuffer(b.data(), QByteArrayView(static_cast<const char *>(text2), length2));
+    return turkishCollator().compare(QStringView(a.data(), endA), QStringView(b.data(), endB));
+}
+
+void yearOfDayNumber(sqlite3_context *context, int, sqlite3_value **arguments)
+{
+    const int type = sqlite3_value_numeric_type(arguments[0]);
+    if (type != SQLITE_INTEGER && type != SQLITE_FLOAT) {
+        sqlite3_result_null(context);
+        return;
+    }
+    const QDate date = DateFromDayNumber(sqlite3_value_int64(arguments[0]));
+    sqlite3_result_int(context, date.year());
+}
+
+} // namespace
+
+bool registerSqlFunctions(sqlite3 *db)
+{
+    return sqlite3_create_collation_v2(db, "TR", SQLITE_UTF8, nullptr, compareTurkish, nullptr) == SQLITE_OK
+        && sqlite3_create_function_v2(db, "year", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                                      yearOfDayNumber, nullptr, nullptr, nullptr)
+        == SQLITE_OK;
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "core/Recordset.h"
+
+#include <QStringList>
+
+#include <map>
+#include <memory>
+
+class Database;
+class Statement;
+
+// A cursor on one table that never loads it: every move and seek is one indexed look-up
+// relative to the key of the current position, in the order of the selected index (by row
+// number while none is selected).
+class TableCursor : public Recordset
+{
+public:
+    // nullptr when the table does not exist.
+    static std::unique_ptr<TableCursor> open(Database &db, const QString &table);
+    ~TableCursor() override;
+
+    bool moveFirst() override;
+    bool moveLast() override;
+    bool moveNext() override;
+    bool movePrevious() override;
+    qint64 count() override;
+
+    bool seek(const QString &indexName, const QVariant &key) override;
+    bool edit() override;
+    bool addNew() override;
+    bool update() override;
+    bool remove() override;
+    bool write(const QString &fieldName, const QVariant &value) override;
+
+protected:
+    bool currentStored(int fieldIndex, QVariant *stored) const override;
+
+private:
+    enum class Pending { None, Edit, AddNew };
+    enum class Direction { Forward, Backward };
+
+    TableCursor(Database &db, const QString &table);
+    bool loadSchema();
+    Statement *statement(const QString &sql);
+    QString selectSql(const QString &where, Direction direction) const;
+    // Runs a positioning query; on a row the cursor stands on it. False on an engine error.
+    bool position(const QString &sql, const QVariantList &values, bool *found);
+    bool step(Direction direction);
+    bool fetchRow(qint64 rowid);
+    bool insertPending();
+    bool updatePending();
+
+    Database &m_db;
+    QString m_table;
+    QString m_columns;                        // the select list: row number, then every field
+    std::map<QString, QStringList> m_indexes; // index name (lower case) -> its columns
+    QStringList m_order;                      // columns that order the cursor, ending in a unique one
+    QVariantList m_key;                       // the position: values of a prefix of m_order
+    bool m_onRecord = false;
+    qint64 m_rowid = 0;
+    std::vector<QVariant> m_row;
+    Pending m_pending = Pending::None;
+    std::map<int, QVariant> m_pendingValues;
+    std::map<QString, std::unique_ptr<Statement>> m_statements;
+};

@@ -1,0 +1,7 @@
+#include "money/AmountConventions.h"
+
+AmountConventions &amountConventions()
+{
+    static AmountConventions conventions;
+    return conventions;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+
+// How amounts are rounded, shown and spelled: part of the process-wide parameter set,
+// kept here because every amount routine reads it.
+struct AmountConventions
+{
+    int tlonda = 2;                // decimals of money amounts
+    QChar decimalSeparator = u'.';
+    QChar thousandsSeparator = u',';
+    QString currencyWord = QStringLiteral("YTL");
+    QString subUnitWord = QStringLiteral("YKR");
+};
+
+AmountConventions &amountConventions();

@@ -1,0 +1,102 @@
+#include "money/Currency.h"
+
+#include <cmath>
+#include <limits>
+
+qint64 roundHalfEven(qint64 value, qint64 step)
+{
+    qint64 quotient = value / step;
+    qint64 remainder = value % step;
+    if (remainder < 0) {
+        remainder += step;
+        --quotient;
+    }
+    if (2 * remainder > step || (2 * remainder == step && (quotient & 1)))
+        ++quotient;
+    return quotient * step;
+}
+
+Currency Currency::fromDouble(double value, bool *ok)
+{
+    const double scaled = std::nearbyint(value * Scale); // the default rounding mode: halves to even
+    const bool fits = std::isfinite(scaled) && std::fabs(scaled) < 9.2e18;
+    if (ok)
+        *ok = fits;
+    return fits ? fromRaw(qint64(scaled)) : Currency();
+}
+
+Currency Currency::fromString(QStringView text, bool *ok)
+{
+    const QStringView t = text.trimmed();
+    qsizetype i = 0;
+    bool negative = false;
+    if (i < t.size() && (t[i] == u'-' || t[i] == u'+'))
+        negative = t[i++] == u'-';
+
+    qint64 raw = 0;
+    int decimals = -1; // -1 while still in the integer part
+    bool anyDigit = false;
+    bool roundUp = false;
+    bool tie = false;
+    bool valid = true;
+    for (; i < t.size() && valid; ++i) {
+        const QChar c = t[i];
+        if (c == u'.' && decimals < 0) {
+            decimals = 0;
+            continue;
+        }
+        if (!c.isDigit()) {
+            valid = false;
+            break;
+        }
+        anyDigit = true;
+        const int digit = c.digitValue();
+        if (decimals == 4) { // the first digit past the fourth decides, the rest break ties
+            roundUp = digit > 5;
+            tie = digit == 5;
+            decimals = 5;
+            continue;
+        }
+        if (decimals == 5) {
+            if (tie && digit != 0) {
+                roundUp = true;
+                tie = false;
+            }
+            continue;
+        }
+        if (raw > (std::numeric_limits<qint64>::max() - digit) / 10) {
+            valid = false;
+            break;
+        }
+        raw = raw * 10 + digit;
+        if (decimals >= 0)
+            ++decimals;
+    }
+    valid = valid && anyDigit;
+    for (int d = qMax(decimals, 0); valid && d < 4; ++d) {
+        if (raw > std::numeric_limits<qint64>::max() / 10)
+            valid = false;
+        else
+            raw *= 10;
+    }
+    if (valid && (roundUp || (tie && (raw & 1))))
+        ++raw;
+    if (ok)
+        *ok = valid;
+    if (!valid)
+        return Currency();
+    return fromRaw(negative ? -raw : raw);
+}
+
+QString Currency::toString() const
+{
+    const bool negative = m_raw < 0;
+    const quint64 magnitude = negative ? 0 - quint64(m_raw) : quint64(m_raw);
+    QString text = QString::number(magnitude / Scale);
+    QString fraction = QString::number(magnitude % Scale).rightJustified(4, u'0');
+    while (fraction.endsWith(u'0'))
+        fraction.chop(1);
+    if (!fraction.isEmpty())
+        text += u'.' + fraction;
+    return negative ? u'-' + text : text;
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "money/Currency.h"
+
+// Adds 0.0005 and rounds to the parameter decimals, halves to even, on the exact value.
+Currency RoundAmount(Currency amount);
+// Any other number is first converted to a Currency.
+Currency RoundAmount(double amount);

@@ -1,0 +1,22 @@
+#include "testsupport/TestDataFolder.h"
+
+#include "core/DataFiles.h"
+#include "core/Parameters.h"
+
+TestDataFolder::TestDataFolder()
+{
+    ResetParameters();
+    SetProgramFolder(m_dir.path());
+    m_ready = m_dir.isValid() && CreateDataFiles() && OpenDataFiles();
+}
+
+TestDataFolder::~TestDataFolder()
+{
+    CloseDataFiles();
+    ResetParameters();
+}
+
+QString TestDataFolder::dataFile() const
+{
+    return DataFilePath();
+}
