@@ -2,7 +2,9 @@
 
 #include "core/ProgramArt.h"
 
+#include <QGuiApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 SplashWindow::SplashWindow(int milliseconds)
@@ -18,6 +20,8 @@ SplashWindow::SplashWindow(int milliseconds)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(picture);
     setFixedSize(300, 170);
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
 
     m_timer.setSingleShot(true);
     m_timer.setInterval(milliseconds);
