@@ -4,6 +4,7 @@
 #include "core/MainWindow.h"
 #include "core/Message.h"
 #include "core/Parameters.h"
+#include "core/ProgramScreens.h"
 #include "core/SplashWindow.h"
 
 #include <QCoreApplication>
@@ -43,6 +44,7 @@ void StartRoutine::showMainWindow()
 {
     if (!m_mainWindow) {
         m_mainWindow = std::make_unique<MainWindow>();
+        AddProgramScreens(*m_mainWindow);
         // Loading the main window unloads the splash.
         connect(m_mainWindow.get(), &MainWindow::shown, this, [this] {
             if (m_splash)

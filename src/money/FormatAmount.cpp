@@ -81,12 +81,17 @@ QString grouped(const QString &digits, long groupSize, QChar separator)
 
 QString FormatAmount(const QString &amountText, long groupSize)
 {
-    DecimalText number = readDecimal(amountText);
+    return FormatNumber(amountText, amountConventions().tlonda, groupSize);
+}
+
+QString FormatNumber(const QString &numberText, int decimals, long groupSize)
+{
+    DecimalText number = readDecimal(numberText);
     if (allZero(number.whole) && allZero(number.fraction))
         return QString();
 
     const AmountConventions &conventions = amountConventions();
-    const int decimals = qBound(0, conventions.tlonda, 9);
+    decimals = qBound(0, decimals, 9);
     roundTo(number, decimals);
     while (number.whole.size() > 1 && number.whole.startsWith(u'0'))
         number.whole.remove(0, 1);

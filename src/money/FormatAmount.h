@@ -9,3 +9,5 @@
 // and zero as the empty text.
 QString FormatAmount(const QString &amountText, long groupSize);
 QString FormatAmount(Currency amount, long groupSize = 3);
+// The same with an explicit number of decimals (the numeric input fields have their own).
+QString FormatNumber(const QString &numberText, int decimals, long groupSize);

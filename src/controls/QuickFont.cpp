@@ -1,0 +1,16 @@
+#include "controls/QuickFont.h"
+
+#include <QSettings>
+
+QFont QuickFont(const QuickFontKeys &keys)
+{
+    QSettings settings(QSettings::UserScope, QStringLiteral("quandel"));
+    settings.beginGroup(QStringLiteral("quick"));
+    QFont font(settings.value(keys.nameKey, keys.defaultName).toString());
+    bool ok = false;
+    const double size = settings.value(keys.sizeKey, keys.defaultSize).toDouble(&ok);
+    font.setPointSizeF(ok && size > 0 ? size : keys.defaultSize);
+    font.setBold(settings.value(keys.boldKey, keys.defaultBold).toString().toUpper() == u"BOLD");
+    font.setStyleHint(QFont::TypeWriter);
+    return font;
+}

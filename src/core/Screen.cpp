@@ -1,0 +1,61 @@
+#include "core/Screen.h"
+
+#include "core/OpenInMain.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+Screen::Screen(const QString &formName, const QString &caption, QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName(formName);
+    setWindowTitle(caption);
+    if (QMdiArea *area = MainArea())
+        setWindowIcon(area->window()->windowIcon());
+}
+
+void Screen::closeScreen()
+{
+    if (auto *holder = qobject_cast<QMdiSubWindow *>(parentWidget()))
+        holder->close();
+    else
+        close();
+}
+
+void Screen::setFocusChain(std::initializer_list<QWidget *> fields)
+{
+    QWidget *previous = nullptr;
+    for (QWidget *field : fields) {
+        if (previous)
+            setTabOrder(previous, field);
+        previous = field;
+    }
+    m_firstField = fields.size() > 0 ? *fields.begin() : nullptr;
+    if (m_firstField)
+        m_firstField->setFocus();
+}
+
+QLabel *Screen::labelFor(const QString &caption, QWidget *field)
+{
+    auto *label = new QLabel(caption, this);
+    label->setBuddy(field);
+    QString name = caption;
+    name.remove(u'&');
+    field->setAccessibleName(name.trimmed());
+    if (QWidget *inner = field->focusProxy())
+        inner->setAccessibleName(name.trimmed());
+    return label;
+}
+
+void Screen::keyPressEvent(QKeyEvent *event)
+{
+    QWidget *focused = focusWidget();
+    const bool inFirstField = m_firstField && focused && (focused == m_firstField || m_firstField->isAncestorOf(focused));
+    if (event->key() == Qt::Key_Escape && inFirstField) {
+        closeScreen();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include <initializer_list>
+
+class QLabel;
+
+// What every screen shares: its form name and caption, the main window's icon, the order in
+// which Enter and Up walk its fields, and Esc in the first field to close it.
+class Screen : public QWidget
+{
+    Q_OBJECT
+public:
+    Screen(const QString &formName, const QString &caption, QWidget *parent = nullptr);
+
+    // Closes the screen and the sub-window that holds it.
+    void closeScreen();
+
+protected:
+    // The fields in the order Enter/Down and Up move through them; the first takes the focus.
+    void setFocusChain(std::initializer_list<QWidget *> fields);
+    // A label for a field; its text (without the accelerator mark) becomes the field's
+    // accessible name.
+    QLabel *labelFor(const QString &caption, QWidget *field);
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QPointer<QWidget> m_firstField;
+};

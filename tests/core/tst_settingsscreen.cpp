@@ -1,0 +1,206 @@
+#include "controls/XText.h"
+#include "core/AccessLayer.h"
+#include "core/DataFiles.h"
+#include "core/MainWindow.h"
+#include "core/Parameters.h"
+#include "core/ProgramScreens.h"
+#include "core/SettingsScreen.h"
+#include "money/AmountConventions.h"
+#include "money/FormatAmount.h"
+#include "testsupport/MessageLog.h"
+#include "testsupport/TestDataFolder.h"
+#include "testsupport/Typing.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QtTest>
+
+namespace {
+
+QStringList genelRows()
+{
+    QStringList rows;
+    std::unique_ptr<Recordset> query;
+    if (QueryOpen(*dataFiles().db, query, QStringLiteral("SELECT kod FROM genel ORDER BY kod"))) {
+        do
+            rows << FieldRead(*query, QStringLiteral("kod")).toString();
+        while (RsNext(*query));
+    }
+    return rows;
+}
+
+} // namespace
+
+class TestSettingsScreen : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void opensFromTheMenu();
+    void labelsNameTheFields();
+    void showsTheParameterSet();
+    void saveStoresEveryParameterOnce();
+    void cancelChangesNothing();
+    void escapeInTheFirstFieldCloses();
+    void decimalsChangeHowAmountsShow();
+
+private:
+    XText *field(int index) const;
+    void typeInto(int index, const QString &keys);
+    void press(const char *button);
+
+    std::unique_ptr<MessageLog> m_messages;
+    std::unique_ptr<TestDataFolder> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+    QPointer<SettingsScreen> m_screen;
+};
+
+void TestSettingsScreen::init()
+{
+    m_messages = std::make_unique<MessageLog>();
+    m_folder = std::make_unique<TestDataFolder>();
+    QVERIFY(m_folder->isReady());
+    LoadParameters();
+    m_window = std::make_unique<MainWindow>();
+    AddProgramScreens(*m_window);
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->menuItem(QStringLiteral("mnuayarlar"))->trigger();
+    m_screen = m_window->findChild<SettingsScreen *>(QStringLiteral("Form2"));
+    QVERIFY(m_screen);
+}
+
+void TestSettingsScreen::cleanup()
+{
+    m_window.reset();
+    m_folder.reset();
+    m_messages.reset();
+}
+
+XText *TestSettingsScreen::field(int index) const
+{
+    return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index));
+}
+
+void TestSettingsScreen::typeInto(int index, const QString &keys)
+{
+    field(index)->setFocus();
+    typeKeys(field(index)->textBox(), keys);
+}
+
+void TestSettingsScreen::press(const char *button)
+{
+    m_screen->findChild<QPushButton *>(QString::fromLatin1(button))->click();
+}
+
+void TestSettingsScreen::opensFromTheMenu()
+{
+    QVERIFY(m_window->menuItem(QStringLiteral("mnuayarlar"))->isEnabled());
+    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Ayarlar"));
+    QVERIFY(field(0)->textBox()->hasFocus());
+    m_window->menuItem(QStringLiteral("mnuayarlar"))->trigger();
+    QCOMPARE(m_window->findChildren<SettingsScreen *>().size(), 1);
+}
+
+void TestSettingsScreen::labelsNameTheFields()
+{
+    const QStringList labels = {"Stopaj Oran %", "Fon Oran %", "K.D.V. Oran %", "TL Onda", "Makbuz Seri No",
+                                "Emanet Seri No", "Not 1 İsim", "Not 2 İsim", "Not 3 İsim", "Not 4 İsim", "Ünvan"};
+    for (int i = 0; i < labels.size(); ++i) {
+        QCOMPARE(field(i)->accessibleName(), labels[i]);
+        QCOMPARE(field(i)->textBox()->accessibleName(), labels[i]);
+    }
+    for (int i = 0; i < 6; ++i)
+        QCOMPARE(field(i)->textBox()->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+}
+
+void TestSettingsScreen::showsTheParameterSet()
+{
+    m_screen->closeScreen();
+    parameters().kdv = 18.5f;
+    amountConventions().tlonda = 2;
+    parameters().serino = Currency::fromUnits(500);
+    parameters().unvan = QStringLiteral("Av. Ayşe Yılmaz");
+    QTRY_VERIFY(!m_screen);
+    m_window->menuItem(QStringLiteral("mnuayarlar"))->trigger();
+    m_screen = m_window->findChild<SettingsScreen *>(QStringLiteral("Form2"));
+    QCOMPARE(field(0)->Text(), QString());
+    QCOMPARE(field(2)->Text(), QStringLiteral("18.50"));
+    QCOMPARE(field(3)->Text(), QStringLiteral("2"));
+    QCOMPARE(field(4)->Text(), QStringLiteral("500"));
+    QCOMPARE(field(10)->Text(), QStringLiteral("Av. Ayşe Yılmaz"));
+}
+
+void TestSettingsScreen::saveStoresEveryParameterOnce()
+{
+    typeInto(0, QStringLiteral("20"));
+    typeInto(1, QStringLiteral("10"));
+    typeInto(2, QStringLiteral("18.5"));
+    typeInto(3, QStringLiteral("2"));
+    typeInto(4, QStringLiteral("500"));
+    typeInto(5, QStringLiteral("7"));
+    typeInto(6, QStringLiteral("Telefon"));
+    typeInto(10, QStringLiteral("Av. Şule Işık"));
+    press("kaydet");
+    QTRY_VERIFY(!m_screen);
+
+    const ParameterSet &set = parameters();
+    QCOMPARE(set.stopaj, 20.0f);
+    QCOMPARE(set.kdv, 18.5f);
+    QCOMPARE(amountConventions().tlonda, 2);
+    QCOMPARE(set.serino, Currency::fromUnits(500));
+    QCOMPARE(GenelSingGet(QStringLiteral("fon")), 10.0f);
+    QCOMPARE(GenelCurrenGet(QStringLiteral("emanet")), Currency::fromUnits(7));
+    QCOMPARE(GenelTxtGet(QStringLiteral("not1")), QStringLiteral("Telefon"));
+    QCOMPARE(GenelTxtGet(QStringLiteral("unvan")), QStringLiteral("Av. Şule Işık"));
+    const QStringList keys = {"emanet", "fon", "kdv", "not1", "not2", "not3", "not4", "serino", "stopaj", "tlonda", "unvan"};
+    QCOMPARE(genelRows(), keys);
+
+    m_window->menuItem(QStringLiteral("mnuayarlar"))->trigger();
+    m_screen = m_window->findChild<SettingsScreen *>(QStringLiteral("Form2"));
+    typeInto(4, QStringLiteral("501"));
+    press("kaydet");
+    QCOMPARE(genelRows(), keys);
+    QCOMPARE(GenelCurrenGet(QStringLiteral("serino")), Currency::fromUnits(501));
+    QCOMPARE(GenelSingGet(QStringLiteral("kdv")), 18.5f);
+    QVERIFY(m_messages->entries().isEmpty());
+}
+
+void TestSettingsScreen::cancelChangesNothing()
+{
+    typeInto(0, QStringLiteral("20"));
+    typeInto(10, QStringLiteral("Deneme"));
+    press("vazgec");
+    QTRY_VERIFY(!m_screen);
+    QCOMPARE(parameters().stopaj, 0.0f);
+    QCOMPARE(parameters().unvan, QString());
+    QCOMPARE(genelRows(), QStringList());
+}
+
+void TestSettingsScreen::escapeInTheFirstFieldCloses()
+{
+    typeInto(1, QStringLiteral("5"));
+    QTest::keyClick(field(1)->textBox(), Qt::Key_Escape);
+    QVERIFY(m_screen && m_screen->isVisible());
+    field(0)->setFocus();
+    QTest::keyClick(field(0)->textBox(), Qt::Key_Escape);
+    QTRY_VERIFY(!m_screen);
+    QCOMPARE(m_window->area()->subWindowList().size(), 0);
+}
+
+void TestSettingsScreen::decimalsChangeHowAmountsShow()
+{
+    const Currency amount = Currency::fromString(u"1234.5");
+    QCOMPARE(FormatAmount(amount), QStringLiteral("1,235")); // a fresh book has no decimals
+    typeInto(3, QStringLiteral("2"));
+    press("kaydet");
+    QCOMPARE(FormatAmount(amount), QStringLiteral("1,234.50"));
+}
+
+QTEST_MAIN(TestSettingsScreen)
+#include "tst_settingsscreen.moc"

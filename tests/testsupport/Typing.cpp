@@ -1,0 +1,19 @@
+#include "testsupport/Typing.h"
+
+#include <QtTest>
+
+void typeKeys(QWidget *widget, const QString &keys)
+{
+    for (QChar c : keys) {
+        if (c == u'\b')
+            QTest::keyClick(widget, Qt::Key_Backspace);
+        else if (c == u'\r')
+            QTest::keyClick(widget, Qt::Key_Return);
+        else if (c == u'\x7f')
+            QTest::keyClick(widget, Qt::Key_Delete);
+        else if (c.unicode() < 128)
+            QTest::keyClick(widget, c.toLatin1());
+        else
+            QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    }
+}
