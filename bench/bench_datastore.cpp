@@ -69,7 +69,9 @@ bool fillBook(sqlite3 *db)
     }
     sqlite3_finalize(card);
     sqlite3_stmt *row = nullptr;
-    sqlite3_prepare_v2(db, "INSERT INTO carhar (kod, tarih, islem, evrak, ack, ba, tutar) VALUES (?1, ?2, 2, 'E1', 'Danışmanlık', ?3, ?4)", -1, &row, nullptr);
+    sqlite3_prepare_v2(db,
+        "INSERT INTO carhar (kod, tarih, islem, evrak, ack, ba, tutar) VALUES (?1, ?2, 2, 'E1', 'Danışmanlık', ?3, ?4)",
+        -1, &row, nullptr);
     for (int i = 0; i < transactions; ++i) {
         const QByteArray code = accountCode(i < bigAccountRows ? 0 : account(random)).toUtf8();
         sqlite3_bind_text(row, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
@@ -91,7 +93,7 @@ const QString aggregateSql = QStringLiteral(
 
 QVariantList aggregateValues()
 {
-    return {accountCode(1000), accountCode(8999), DayNumber(QDate(2022, 1, 1)), DayNumber(QDate(2025, 12, 31))};
+    return { accountCode(1000), accountCode(8999), DayNumber(QDate(2022, 1, 1)), DayNumber(QDate(2025, 12, 31)) };
 }
 
 qint64 aggregateThroughLayer(Database &db)
@@ -143,7 +145,7 @@ int main(int argc, char *argv[])
         return 1;
     }
     std::printf("book: %d accounts, %d transactions, filled in %.1f s\n", accounts, transactions,
-                double(fillTimer.elapsed()) / 1000.0);
+        double(fillTimer.elapsed()) / 1000.0);
 
     Recordset &carhar = *dataFiles().carhar;
     std::mt19937 random(7);
@@ -180,7 +182,9 @@ int main(int argc, char *argv[])
 
     std::printf("%-52s %12s %10s\n", "operation (median)", "time", "target");
     std::printf("%-52s %9.1f us %10s\n", "RsSeek on carhar.oto", seek, "<= 50 us");
-    std::printf("%-52s %9.1f ms %10s\n", QStringLiteral("walk one account's %1 rows in (kod, tarih) order").arg(walked).toUtf8().constData(), walk / 1000.0, "");
+    std::printf("%-52s %9.1f ms %10s\n",
+        QStringLiteral("walk one account's %1 rows in (kod, tarih) order").arg(walked).toUtf8().constData(),
+        walk / 1000.0, "");
     std::printf("%-52s %9.1f ms %10s\n", "debit/credit aggregate through QueryOpen", layer / 1000.0, "");
     std::printf("%-52s %9.1f ms %10s\n", "the same statement on the raw sqlite3 API", engine / 1000.0, "");
     std::printf("%-52s %9.2f x  %10s\n", "ratio layer / raw", layer / engine, "<= 1.3 x");

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPainter>
 #include <QTimer>
 #include <QToolButton>
 
@@ -39,9 +40,8 @@ XText::XText(QWidget *parent)
     setFocusProxy(m_edit);
     setFocusPolicy(Qt::StrongFocus);
     m_edit->setFrame(false);
-    m_edit->setFont(QuickFont({QStringLiteral("griddetayfontname"), QStringLiteral("griddetayfontsize"),
-                               QStringLiteral("griddetayfontbold"), QStringLiteral("courier"), 10,
-                               QStringLiteral("Bold")}));
+    m_edit->setFont(QuickFont({ QStringLiteral("griddetayfontname"), QStringLiteral("griddetayfontsize"),
+        QStringLiteral("griddetayfontbold"), QStringLiteral("courier"), 10, QStringLiteral("Bold") }));
     m_edit->installEventFilter(this);
     connect(m_edit, &QLineEdit::textChanged, this, [this] {
         if (m_format == TextFormat)
@@ -283,9 +283,9 @@ void XText::setTextAtEnd(const QString &text)
 void XText::updateDateTip()
 {
     const QDate date = dateOf(m_edit->text());
-    m_edit->setToolTip(date.isValid()
-                           ? u' ' + QLocale(QLocale::Turkish, QLocale::Turkey).toString(date, QStringLiteral("dd MMMM yyyy dddd")) + u' '
-                           : QStringLiteral(" Hatalı Tarih "));
+    m_edit->setToolTip(date.isValid() ? u' '
+                + QLocale(QLocale::Turkish, QLocale::Turkey).toString(date, QStringLiteral("dd MMMM yyyy dddd")) + u' '
+                                      : QStringLiteral(" Hatalı Tarih "));
 }
 
 void XText::changed()
@@ -319,6 +319,18 @@ void XText::changeEvent(QEvent *event)
     if (event->type() == QEvent::EnabledChange && !isEnabled())
         applyColors(false);
     QFrame::changeEvent(event);
+}
+
+// A field with the focus is ringed in the highlight colour, so a fast typist sees where the
+// keys go even in a number field, which shows no caret.
+void XText::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    if (!m_edit->hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 bool XText::keyPress(QKeyEvent *event)
@@ -460,8 +472,8 @@ void XText::counterCharacter(QChar c)
 void XText::moveFocus(bool forward)
 {
     // As a Tab (Shift+Tab) on the field: the screen's focus chain decides where it goes.
-    QKeyEvent tab(QEvent::KeyPress, forward ? Qt::Key_Tab : Qt::Key_Backtab,
-                  forward ? Qt::NoModifier : Qt::ShiftModifier);
+    QKeyEvent tab(
+        QEvent::KeyPress, forward ? Qt::Key_Tab : Qt::Key_Backtab, forward ? Qt::NoModifier : Qt::ShiftModifier);
     QCoreApplication::sendEvent(this, &tab);
 }
 
@@ -475,6 +487,7 @@ void XText::clearEntry()
 
 void XText::focusIn()
 {
+    update();
     m_fresh = true;
     m_point = false;
     applyColors(true);
@@ -484,6 +497,7 @@ void XText::focusIn()
 
 void XText::focusOut()
 {
+    update();
     applyColors(false);
     if (m_format == NumberFormat) {
         showNumber();

@@ -73,6 +73,7 @@ signals:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     bool keyPress(QKeyEvent *event);
@@ -102,8 +103,8 @@ private:
     QString m_passwordChar;
     bool m_locked = false;
     bool m_button = false;
-    QString m_buffer;      // a number field's entry
-    bool m_fresh = false;  // the next key starts a new entry
-    bool m_point = false;  // the entry has its decimal point
+    QString m_buffer; // a number field's entry
+    bool m_fresh = false; // the next key starts a new entry
+    bool m_point = false; // the entry has its decimal point
     QColor m_focusBack, m_focusFore, m_back, m_fore;
 };

@@ -125,8 +125,8 @@ bool TableCreate(Database &, std::unique_ptr<TableDef> &table, const QString &na
     return true;
 }
 
-bool FieldCreate(TableDef &table, const QString &name, int typeCode, bool required, bool allowZeroLength,
-                 int attributes, int size)
+bool FieldCreate(
+    TableDef &table, const QString &name, int typeCode, bool required, bool allowZeroLength, int attributes, int size)
 {
     if (typeCode < int(FieldType::Boolean) || typeCode > int(FieldType::Memo))
         return false;
@@ -143,7 +143,7 @@ bool FieldCreate(TableDef &table, const QString &name, int typeCode, bool requir
 }
 
 bool IndexCreate(TableDef &table, const QString &name, const QString &fields, bool unique, bool primary,
-                 bool /*ignoreNulls: Null keys are simply kept in the index*/, bool required)
+    bool /*ignoreNulls: Null keys are simply kept in the index*/, bool required)
 {
     return table.addIndex(name, fields.split(u';', Qt::SkipEmptyParts), unique || primary, required || primary);
 }

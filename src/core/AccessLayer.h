@@ -43,11 +43,11 @@ bool QueryOpen(Database &db, std::unique_ptr<Recordset> &rs, const QString &sql,
 bool SqlExecute(Database &db, const QString &sql, const QVariantList &values = {});
 
 bool TableCreate(Database &db, std::unique_ptr<TableDef> &table, const QString &name);
-bool FieldCreate(TableDef &table, const QString &name, int typeCode, bool required, bool allowZeroLength,
-                 int attributes, int size);
+bool FieldCreate(
+    TableDef &table, const QString &name, int typeCode, bool required, bool allowZeroLength, int attributes, int size);
 // fields: the index's field names separated by ";".
 bool IndexCreate(TableDef &table, const QString &name, const QString &fields, bool unique, bool primary,
-                 bool ignoreNulls, bool required);
+    bool ignoreNulls, bool required);
 bool TableAppend(Database &db, TableDef &table);
 
 // The engine's field attribute that makes a Long an auto-number.

@@ -37,39 +37,40 @@ struct TableSpec
 const std::vector<TableSpec> &schema()
 {
     static const std::vector<TableSpec> tables = {
-        {u"genel", u"Genel ", u"Genel ",
-         {{u"kod", FieldType::Text, 8, true, 0}, {u"sing", FieldType::Single, 0, false, 0},
-          {u"byt", FieldType::Byte, 0, false, 0}, {u"integ", FieldType::Integer, 0, false, 0},
-          {u"curren", FieldType::Currency, 0, false, 0}, {u"txt", FieldType::Text, 40, false, 0}},
-         {{u"kod", u"kod", true, true, true}}},
-        {u"carkart", u"Cari Kart ", u"Carkart ",
-         {{u"kod", FieldType::Text, 8, true, 0}, {u"unv", FieldType::Text, 50, false, 0},
-          {u"adr1", FieldType::Text, 50, false, 0}, {u"adr2", FieldType::Text, 50, false, 0},
-          {u"vd", FieldType::Text, 15, false, 0}, {u"vn", FieldType::Text, 15, false, 0},
-          {u"ucret", FieldType::Currency, 0, false, 0}, {u"tip", FieldType::Byte, 0, false, 0},
-          {u"not1", FieldType::Text, 50, false, 0}, {u"not2", FieldType::Text, 50, false, 0},
-          {u"not3", FieldType::Text, 50, false, 0}, {u"not4", FieldType::Text, 50, false, 0}},
-         {{u"kod", u"kod", true, true, true}}},
-        {u"carhar", u"Cari Hareket ", u"Carhar ",
-         {{u"kod", FieldType::Text, 8, true, 0}, {u"tarih", FieldType::Date, 0, false, 0},
-          {u"islem", FieldType::Byte, 0, false, 0}, {u"evrak", FieldType::Text, 8, false, 0},
-          {u"ack", FieldType::Text, 40, false, 0}, {u"ba", FieldType::Byte, 0, false, 0},
-          {u"tutar", FieldType::Currency, 0, false, 0}, {u"oto", FieldType::Long, 0, false, AutoIncrementField}},
-         // kodtarih serves the account listings and balances, which read one account's rows by date.
-         {{u"oto", u"oto", false, true, false}, {u"kodtarih", u"kod;tarih", false, false, false}}},
-        {u"defter", u"Meslek Defteri ", u"Meslek Defteri ",
-         {{u"sira", FieldType::Integer, 0, false, 0}, {u"tarih", FieldType::Date, 0, false, 0},
-          {u"islem", FieldType::Byte, 0, false, 0}, {u"evrak", FieldType::Text, 8, false, 0},
-          {u"cari", FieldType::Text, 8, false, 0}, {u"ack", FieldType::Text, 40, false, 0},
-          {u"brut", FieldType::Currency, 0, false, 0}, {u"stopaj", FieldType::Currency, 0, false, 0},
-          {u"fon", FieldType::Currency, 0, false, 0}, {u"kdv", FieldType::Currency, 0, false, 0},
-          {u"oto", FieldType::Long, 0, false, AutoIncrementField}},
-         {{u"oto", u"oto", false, true, false}}},
-        {u"duzen", u"Dizayn ", u"Dizayn ",
-         {{u"sira", FieldType::Long, 0, true, AutoIncrementField}, {u"no", FieldType::Integer, 0, false, 0},
-          {u"uzun", FieldType::Single, 0, false, 0}, {u"sol", FieldType::Single, 0, false, 0},
-          {u"ust", FieldType::Single, 0, false, 0}, {u"txt", FieldType::Text, 40, false, 0}},
-         {{u"sira", u"sira", false, true, false}}},
+        { u"genel", u"Genel ", u"Genel ",
+            { { u"kod", FieldType::Text, 8, true, 0 }, { u"sing", FieldType::Single, 0, false, 0 },
+                { u"byt", FieldType::Byte, 0, false, 0 }, { u"integ", FieldType::Integer, 0, false, 0 },
+                { u"curren", FieldType::Currency, 0, false, 0 }, { u"txt", FieldType::Text, 40, false, 0 } },
+            { { u"kod", u"kod", true, true, true } } },
+        { u"carkart", u"Cari Kart ", u"Carkart ",
+            { { u"kod", FieldType::Text, 8, true, 0 }, { u"unv", FieldType::Text, 50, false, 0 },
+                { u"adr1", FieldType::Text, 50, false, 0 }, { u"adr2", FieldType::Text, 50, false, 0 },
+                { u"vd", FieldType::Text, 15, false, 0 }, { u"vn", FieldType::Text, 15, false, 0 },
+                { u"ucret", FieldType::Currency, 0, false, 0 }, { u"tip", FieldType::Byte, 0, false, 0 },
+                { u"not1", FieldType::Text, 50, false, 0 }, { u"not2", FieldType::Text, 50, false, 0 },
+                { u"not3", FieldType::Text, 50, false, 0 }, { u"not4", FieldType::Text, 50, false, 0 } },
+            { { u"kod", u"kod", true, true, true } } },
+        { u"carhar", u"Cari Hareket ", u"Carhar ",
+            { { u"kod", FieldType::Text, 8, true, 0 }, { u"tarih", FieldType::Date, 0, false, 0 },
+                { u"islem", FieldType::Byte, 0, false, 0 }, { u"evrak", FieldType::Text, 8, false, 0 },
+                { u"ack", FieldType::Text, 40, false, 0 }, { u"ba", FieldType::Byte, 0, false, 0 },
+                { u"tutar", FieldType::Currency, 0, false, 0 },
+                { u"oto", FieldType::Long, 0, false, AutoIncrementField } },
+            // kodtarih serves the account listings and balances, which read one account's rows by date.
+            { { u"oto", u"oto", false, true, false }, { u"kodtarih", u"kod;tarih", false, false, false } } },
+        { u"defter", u"Meslek Defteri ", u"Meslek Defteri ",
+            { { u"sira", FieldType::Integer, 0, false, 0 }, { u"tarih", FieldType::Date, 0, false, 0 },
+                { u"islem", FieldType::Byte, 0, false, 0 }, { u"evrak", FieldType::Text, 8, false, 0 },
+                { u"cari", FieldType::Text, 8, false, 0 }, { u"ack", FieldType::Text, 40, false, 0 },
+                { u"brut", FieldType::Currency, 0, false, 0 }, { u"stopaj", FieldType::Currency, 0, false, 0 },
+                { u"fon", FieldType::Currency, 0, false, 0 }, { u"kdv", FieldType::Currency, 0, false, 0 },
+                { u"oto", FieldType::Long, 0, false, AutoIncrementField } },
+            { { u"oto", u"oto", false, true, false } } },
+        { u"duzen", u"Dizayn ", u"Dizayn ",
+            { { u"sira", FieldType::Long, 0, true, AutoIncrementField }, { u"no", FieldType::Integer, 0, false, 0 },
+                { u"uzun", FieldType::Single, 0, false, 0 }, { u"sol", FieldType::Single, 0, false, 0 },
+                { u"ust", FieldType::Single, 0, false, 0 }, { u"txt", FieldType::Text, 40, false, 0 } },
+            { { u"sira", u"sira", false, true, false } } },
     };
     return tables;
 }
@@ -88,11 +89,11 @@ bool createTable(Database &db, const TableSpec &spec)
         return false;
     }
     for (const FieldSpec &field : spec.fields)
-        FieldCreate(*table, QString::fromUtf16(field.name), int(field.type), field.required, true,
-                    field.attributes, field.size);
+        FieldCreate(*table, QString::fromUtf16(field.name), int(field.type), field.required, true, field.attributes,
+            field.size);
     for (const IndexSpec &index : spec.indexes)
         IndexCreate(*table, QString::fromUtf16(index.name), QString::fromUtf16(index.fields), index.unique,
-                    index.primary, false, index.required);
+            index.primary, false, index.required);
     if (!TableAppend(db, *table)) {
         Message::exclamation(QString::fromUtf16(spec.appendCaption) + QStringLiteral("\nSql Tablosu eklenemedi."));
         return false;

@@ -20,8 +20,8 @@ Database::~Database()
 std::unique_ptr<Database> Database::connect(const QString &path, int flags)
 {
     sqlite3 *db = nullptr;
-    const int rc = sqlite3_open_v2(QFileInfo(path).absoluteFilePath().toUtf8().constData(), &db,
-                                   flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int rc = sqlite3_open_v2(
+        QFileInfo(path).absoluteFilePath().toUtf8().constData(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     std::unique_ptr<Database> database(new Database(db, path));
     if (rc != SQLITE_OK || !registerSqlFunctions(db))
         return nullptr;

@@ -50,8 +50,8 @@ bool toWholeNumber(const QVariant &value, qint64 *number)
         return true;
     }
     bool ok = false;
-    const double d = value.typeId() == QMetaType::QString ? value.toString().trimmed().toDouble(&ok)
-                                                          : value.toDouble(&ok);
+    const double d
+        = value.typeId() == QMetaType::QString ? value.toString().trimmed().toDouble(&ok) : value.toDouble(&ok);
     if (!ok || !std::isfinite(d) || std::fabs(d) > 9e18)
         return false;
     *number = qint64(std::nearbyint(d));
@@ -213,9 +213,8 @@ bool FieldDef::toStorage(const QVariant &value, QVariant *stored) const
     case FieldType::Single:
     case FieldType::Double: {
         bool ok = true;
-        const double number = value.userType() == qMetaTypeId<Currency>()
-            ? value.value<Currency>().toDouble()
-            : value.toDouble(&ok);
+        const double number
+            = value.userType() == qMetaTypeId<Currency>() ? value.value<Currency>().toDouble() : value.toDouble(&ok);
         if (!ok)
             return false;
         *stored = type == FieldType::Single ? double(float(number)) : number;
@@ -234,8 +233,7 @@ bool FieldDef::toStorage(const QVariant &value, QVariant *stored) const
         return true;
     case FieldType::Text:
     case FieldType::Memo:
-        *stored = value.userType() == qMetaTypeId<Currency>() ? value.value<Currency>().toString()
-                                                              : value.toString();
+        *stored = value.userType() == qMetaTypeId<Currency>() ? value.value<Currency>().toString() : value.toString();
         return true;
     }
     return false;

@@ -24,19 +24,19 @@ struct TopMenu
 const std::vector<TopMenu> &menuLayout()
 {
     static const std::vector<TopMenu> menus = {
-        {u"mnucari", u"&Cari",
-         {{u"mnucarkart", u"Cari &Kartlar"}, {u"mnubos1", u"-"}, {u"mnucarhar", u"Cari &Hareketler"},
-          {u"mnubos2", u"-"}, {u"mnucareks", u"Cari Hareket Dökümü"}, {u"mnubos71", u"-"},
-          {u"mnugbor", u"Genel &Borç Alacak Listesi"}}},
-        {u"mnuislem", u"&Işlemler",
-         {{u"mnukasa", u"Kasa"}, {u"mnubos7", u"-"}, {u"mnumkb", u"Serbest Meslek &Makbuzu"}, {u"mnubos4", u"-"},
-          {u"mnuemanet", u"&Emanet Makbuzu"}}},
-        {u"mnudefter", u"&Defter",
-         {{u"mnusdef", u"Serbest Meslek Defteri"}, {u"mnubos6", u"-"}, {u"mnukdv", u"Kdv, Stopaj Raporu"},
-          {u"mnubos10", u"-"}, {u"mnustoplst", u"Stopaj Listesi"}, {u"mnubos8", u"-"},
-          {u"mnuresmi", u"Resmi Defter Çekimi"}}},
-        {u"mnuayar", u"Ayar",
-         {{u"mnuayarlar", u"Ayarlar"}, {u"mnubos9", u"-"}, {u"mnudiz", u"Makbuz Dizayn"}}},
+        { u"mnucari", u"&Cari",
+            { { u"mnucarkart", u"Cari &Kartlar" }, { u"mnubos1", u"-" }, { u"mnucarhar", u"Cari &Hareketler" },
+                { u"mnubos2", u"-" }, { u"mnucareks", u"Cari Hareket Dökümü" }, { u"mnubos71", u"-" },
+                { u"mnugbor", u"Genel &Borç Alacak Listesi" } } },
+        { u"mnuislem", u"&Işlemler",
+            { { u"mnukasa", u"Kasa" }, { u"mnubos7", u"-" }, { u"mnumkb", u"Serbest Meslek &Makbuzu" },
+                { u"mnubos4", u"-" }, { u"mnuemanet", u"&Emanet Makbuzu" } } },
+        { u"mnudefter", u"&Defter",
+            { { u"mnusdef", u"Serbest Meslek Defteri" }, { u"mnubos6", u"-" }, { u"mnukdv", u"Kdv, Stopaj Raporu" },
+                { u"mnubos10", u"-" }, { u"mnustoplst", u"Stopaj Listesi" }, { u"mnubos8", u"-" },
+                { u"mnuresmi", u"Resmi Defter Çekimi" } } },
+        { u"mnuayar", u"Ayar",
+            { { u"mnuayarlar", u"Ayarlar" }, { u"mnubos9", u"-" }, { u"mnudiz", u"Makbuz Dizayn" } } },
     };
     return menus;
 }

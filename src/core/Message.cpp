@@ -19,10 +19,10 @@ bool show(Kind kind, const QString &text)
     if (responder())
         return responder()(kind, text);
     const QMessageBox::Icon icon = kind == Kind::Exclamation ? QMessageBox::Warning
-        : kind == Kind::Information                         ? QMessageBox::Information
+        : kind == Kind::Information                          ? QMessageBox::Information
                                                              : QMessageBox::Question;
-    const QMessageBox::StandardButtons buttons =
-        kind == Kind::Question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok;
+    const QMessageBox::StandardButtons buttons
+        = kind == Kind::Question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok;
     QMessageBox box(icon, QStringLiteral("Quandel"), text, buttons, QApplication::activeWindow());
     if (kind == Kind::Question) {
         box.button(QMessageBox::Yes)->setText(QStringLiteral("&Evet"));

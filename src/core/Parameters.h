@@ -10,12 +10,12 @@
 struct ParameterSet
 {
     float stopaj = 0; // withholding rate, percent of the gross fee
-    float fon = 0;    // fund-levy rate, percent of the withholding
-    float kdv = 0;    // VAT rate, percent of the gross fee
-    Currency serino;  // last self-employment receipt number
-    Currency emanet;  // last deposit receipt number
+    float fon = 0; // fund-levy rate, percent of the withholding
+    float kdv = 0; // VAT rate, percent of the gross fee
+    Currency serino; // last self-employment receipt number
+    Currency emanet; // last deposit receipt number
     QString not1, not2, not3, not4; // names of the account cards' note fields
-    QString unvan;                  // the holder's name
+    QString unvan; // the holder's name
 };
 
 ParameterSet &parameters();

@@ -40,12 +40,12 @@ QPixmap SplashPicture()
     QFont title(QStringLiteral("DejaVu Sans"), 19, QFont::Bold);
     painter.setFont(title);
     painter.drawText(QRectF(116, 42, 180, 60), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
-                     QStringLiteral("Serbest Meslek"));
+        QStringLiteral("Serbest Meslek"));
     QFont subtitle(QStringLiteral("DejaVu Sans"), 9);
     painter.setFont(subtitle);
     painter.setPen(QColor(0xd6, 0xe4, 0xf0));
     painter.drawText(QRectF(116, 104, 180, 40), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                     QStringLiteral("Makbuz, cari hesap ve defter kayıtları"));
+        QStringLiteral("Makbuz, cari hesap ve defter kayıtları"));
     return picture;
 }
 

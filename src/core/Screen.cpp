@@ -52,7 +52,8 @@ QLabel *Screen::labelFor(const QString &caption, QWidget *field)
 void Screen::keyPressEvent(QKeyEvent *event)
 {
     QWidget *focused = focusWidget();
-    const bool inFirstField = m_firstField && focused && (focused == m_firstField || m_firstField->isAncestorOf(focused));
+    const bool inFirstField
+        = m_firstField && focused && (focused == m_firstField || m_firstField->isAncestorOf(focused));
     if (event->key() == Qt::Key_Escape && inFirstField) {
         closeScreen();
         return;

@@ -19,19 +19,19 @@ struct FieldLayout
     int decimals;
 };
 
-const std::array<FieldLayout, 11> fieldLayout = {{
-    {u"Stopaj Oran %", XText::NumberFormat, 99, 2},
-    {u"Fon Oran %", XText::NumberFormat, 99, 2},
-    {u"K.D.V. Oran %", XText::NumberFormat, 99, 2},
-    {u"TL Onda", XText::NumberFormat, 5, 0},
-    {u"Makbuz Seri No", XText::NumberFormat, 99999999, 0},
-    {u"Emanet Seri No", XText::NumberFormat, 99999999, 0},
-    {u"Not 1 İsim", XText::TextFormat, 10, 0},
-    {u"Not 2 İsim", XText::TextFormat, 10, 0},
-    {u"Not 3 İsim", XText::TextFormat, 10, 0},
-    {u"Not 4 İsim", XText::TextFormat, 10, 0},
-    {u"Ünvan", XText::TextFormat, 40, 0},
-}};
+const std::array<FieldLayout, 11> fieldLayout = { {
+    { u"Stopaj Oran %", XText::NumberFormat, 99, 2 },
+    { u"Fon Oran %", XText::NumberFormat, 99, 2 },
+    { u"K.D.V. Oran %", XText::NumberFormat, 99, 2 },
+    { u"TL Onda", XText::NumberFormat, 5, 0 },
+    { u"Makbuz Seri No", XText::NumberFormat, 99999999, 0 },
+    { u"Emanet Seri No", XText::NumberFormat, 99999999, 0 },
+    { u"Not 1 İsim", XText::TextFormat, 10, 0 },
+    { u"Not 2 İsim", XText::TextFormat, 10, 0 },
+    { u"Not 3 İsim", XText::TextFormat, 10, 0 },
+    { u"Not 4 İsim", XText::TextFormat, 10, 0 },
+    { u"Ünvan", XText::TextFormat, 40, 0 },
+} };
 
 } // namespace
 
@@ -71,8 +71,8 @@ SettingsScreen::SettingsScreen(QWidget *parent)
     page->addLayout(buttons);
 
     fill();
-    setFocusChain({m_fields[0], m_fields[1], m_fields[2], m_fields[3], m_fields[4], m_fields[5], m_fields[6],
-                   m_fields[7], m_fields[8], m_fields[9], m_fields[10], saveButton, cancelButton});
+    setFocusChain({ m_fields[0], m_fields[1], m_fields[2], m_fields[3], m_fields[4], m_fields[5], m_fields[6],
+        m_fields[7], m_fields[8], m_fields[9], m_fields[10], saveButton, cancelButton });
 }
 
 void SettingsScreen::fill()

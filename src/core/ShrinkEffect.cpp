@@ -47,8 +47,8 @@ protected:
         if (m_step >= m_steps.size())
             return;
         const ShrinkRect &r = m_steps[m_step];
-        const QRect inner = QRect(QPoint(r.left, r.top), QPoint(r.right - 1, r.bottom - 1))
-                                .translated(-mapToGlobal(QPoint(0, 0)));
+        const QRect inner
+            = QRect(QPoint(r.left, r.top), QPoint(r.right - 1, r.bottom - 1)).translated(-mapToGlobal(QPoint(0, 0)));
         QPainter painter(this);
         painter.setPen(QPen(palette().color(QPalette::WindowText), 1, Qt::DotLine));
         painter.drawRect(inner.normalized());
@@ -113,6 +113,6 @@ void ShrinkEffect(bool towardCentre)
     if (!window)
         return;
     const QRect frame(window->mapToGlobal(QPoint(0, 0)), window->size());
-    const ShrinkRect rect{frame.left(), frame.top(), frame.left() + frame.width(), frame.top() + frame.height()};
+    const ShrinkRect rect { frame.left(), frame.top(), frame.left() + frame.width(), frame.top() + frame.height() };
     new ShrinkOverlay(window, ShrinkSteps(rect, towardCentre));
 }

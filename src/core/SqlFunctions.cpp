@@ -51,7 +51,7 @@ void yearOfDayNumber(sqlite3_context *context, int, sqlite3_value **arguments)
 bool registerSqlFunctions(sqlite3 *db)
 {
     return sqlite3_create_collation_v2(db, "TR", SQLITE_UTF8, nullptr, compareTurkish, nullptr) == SQLITE_OK
-        && sqlite3_create_function_v2(db, "year", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
-                                      yearOfDayNumber, nullptr, nullptr, nullptr)
+        && sqlite3_create_function_v2(
+               db, "year", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, yearOfDayNumber, nullptr, nullptr, nullptr)
         == SQLITE_OK;
 }

@@ -5,8 +5,7 @@
 Statement::Statement(sqlite3 *db, const QString &sql)
 {
     const QByteArray text = sql.toUtf8();
-    if (sqlite3_prepare_v3(db, text.constData(), int(text.size()), SQLITE_PREPARE_PERSISTENT, &m_stmt,
-                           nullptr)
+    if (sqlite3_prepare_v3(db, text.constData(), int(text.size()), SQLITE_PREPARE_PERSISTENT, &m_stmt, nullptr)
         != SQLITE_OK) {
         sqlite3_finalize(m_stmt);
         m_stmt = nullptr;
@@ -47,14 +46,13 @@ bool Statement::bind(int index, const QVariant &value)
         break;
     case QMetaType::QByteArray: {
         const QByteArray bytes = value.toByteArray();
-        rc = sqlite3_bind_blob64(m_stmt, index, bytes.constData(), sqlite3_uint64(bytes.size()),
-                                 SQLITE_TRANSIENT);
+        rc = sqlite3_bind_blob64(m_stmt, index, bytes.constData(), sqlite3_uint64(bytes.size()), SQLITE_TRANSIENT);
         break;
     }
     default: {
         const QByteArray text = value.toString().toUtf8();
-        rc = sqlite3_bind_text64(m_stmt, index, text.constData(), sqlite3_uint64(text.size()),
-                                 SQLITE_TRANSIENT, SQLITE_UTF8);
+        rc = sqlite3_bind_text64(
+            m_stmt, index, text.constData(), sqlite3_uint64(text.size()), SQLITE_TRANSIENT, SQLITE_UTF8);
         break;
     }
     }
@@ -70,8 +68,7 @@ bool Statement::next()
 
 bool Statement::execute()
 {
-    while (next()) {
-    }
+    while (next()) { }
     const bool ok = m_done;
     reset();
     return ok;

@@ -5,7 +5,6 @@
 
 #include <sqlite3.h>
 
-
 namespace {
 
 const QString rowidColumn = QStringLiteral("_rowid_");
@@ -67,11 +66,11 @@ bool TableCursor::loadSchema()
     std::vector<FieldDef> fields;
     QStringList names;
     while (columns.next()) {
-        FieldDef field = FieldDef::fromDeclaredType(columns.column(0).toString(), columns.column(1).toString(),
-                                                    columns.column(2).toLongLong() != 0);
+        FieldDef field = FieldDef::fromDeclaredType(
+            columns.column(0).toString(), columns.column(1).toString(), columns.column(2).toLongLong() != 0);
         field.autoNumber = field.autoNumber && columns.column(3).toLongLong() != 0;
         if (field.autoNumber) // the row number itself: its index needs no entry of its own
-            m_indexes[field.name.toLower()] = QStringList{field.name};
+            m_indexes[field.name.toLower()] = QStringList { field.name };
         names << field.name;
         fields.push_back(field);
     }
@@ -79,11 +78,11 @@ bool TableCursor::loadSchema()
         return false;
     setFields(std::move(fields));
     m_columns = rowidColumn + QStringLiteral(", ") + columnList(names);
-    m_order = QStringList{rowidColumn};
+    m_order = QStringList { rowidColumn };
 
     Statement indexes(m_db.handle(),
-                      QStringLiteral("SELECT il.name, ii.name FROM pragma_index_list(?1) AS il, "
-                                     "pragma_index_info(il.name) AS ii ORDER BY il.name, ii.seqno"));
+        QStringLiteral("SELECT il.name, ii.name FROM pragma_index_list(?1) AS il, "
+                       "pragma_index_info(il.name) AS ii ORDER BY il.name, ii.seqno"));
     if (!indexes.isValid() || !indexes.bind(1, m_table))
         return false;
     const QString prefix = m_table.toLower() + u'_';
@@ -215,12 +214,13 @@ bool TableCursor::seek(const QString &indexName, const QVariant &key)
         m_order << rowidColumn;
 
     bool found = false;
-    if (!position(selectSql(comparison({columns.first()}, QStringLiteral("=")), Direction::Forward), {stored}, &found))
+    if (!position(
+            selectSql(comparison({ columns.first() }, QStringLiteral("=")), Direction::Forward), { stored }, &found))
         return false;
     if (!found) { // no current record; moves go on from where the key would stand
         m_onRecord = false;
         m_bof = m_eof = false;
-        m_key = {stored};
+        m_key = { stored };
     }
     m_noMatch = !found;
     return found;
@@ -268,9 +268,9 @@ bool TableCursor::insertPending()
         columns << field(index).name;
         values << value;
     }
-    const QString sql = columns.isEmpty()
-        ? QStringLiteral("INSERT INTO \"%1\" DEFAULT VALUES").arg(m_table)
-        : QStringLiteral("INSERT INTO \"%1\" (%2) VALUES (%3)").arg(m_table, columnList(columns), placeholders(int(columns.size())));
+    const QString sql = columns.isEmpty() ? QStringLiteral("INSERT INTO \"%1\" DEFAULT VALUES").arg(m_table)
+                                          : QStringLiteral("INSERT INTO \"%1\" (%2) VALUES (%3)")
+                                                .arg(m_table, columnList(columns), placeholders(int(columns.size())));
     Statement *insert = statement(sql);
     if (!insert || !insert->bindAll(values) || !insert->execute())
         return false;
@@ -302,7 +302,7 @@ bool TableCursor::updatePending()
 bool TableCursor::fetchRow(qint64 rowid)
 {
     bool found = false;
-    return position(selectSql(QStringLiteral("_rowid_ = ?1"), Direction::Forward), {rowid}, &found) && found;
+    return position(selectSql(QStringLiteral("_rowid_ = ?1"), Direction::Forward), { rowid }, &found) && found;
 }
 
 bool TableCursor::remove()

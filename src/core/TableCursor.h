@@ -53,10 +53,10 @@ private:
 
     Database &m_db;
     QString m_table;
-    QString m_columns;                        // the select list: row number, then every field
+    QString m_columns; // the select list: row number, then every field
     std::map<QString, QStringList> m_indexes; // index name (lower case) -> its columns
-    QStringList m_order;                      // columns that order the cursor, ending in a unique one
-    QVariantList m_key;                       // the position: values of a prefix of m_order
+    QStringList m_order; // columns that order the cursor, ending in a unique one
+    QVariantList m_key; // the position: values of a prefix of m_order
     bool m_onRecord = false;
     qint64 m_rowid = 0;
     std::vector<QVariant> m_row;

@@ -38,7 +38,7 @@ bool TableDef::addIndex(const QString &name, const QStringList &columns, bool un
     // An index on the auto-number alone is the table's row order itself.
     if (columns.size() == 1 && findField(columns.first())->autoNumber)
         return true;
-    m_indexes.push_back(Index{name, columns, unique});
+    m_indexes.push_back(Index { name, columns, unique });
     return true;
 }
 
@@ -47,14 +47,14 @@ QStringList TableDef::creationSql() const
     QStringList columns;
     for (const FieldDef &field : m_fields)
         columns << field.columnDeclaration();
-    QStringList sql{QStringLiteral("CREATE TABLE \"%1\" (%2)").arg(m_name, columns.join(QStringLiteral(", ")))};
+    QStringList sql { QStringLiteral("CREATE TABLE \"%1\" (%2)").arg(m_name, columns.join(QStringLiteral(", "))) };
     for (const Index &index : m_indexes) {
         QStringList quotedColumns;
         for (const QString &column : index.columns)
             quotedColumns << u'"' + column + u'"';
         sql << QStringLiteral("CREATE %1INDEX \"%2_%3\" ON \"%2\" (%4)")
                    .arg(index.unique ? QStringLiteral("UNIQUE ") : QString(), m_name, index.name,
-                        quotedColumns.join(QStringLiteral(", ")));
+                       quotedColumns.join(QStringLiteral(", ")));
     }
     return sql;
 }

@@ -7,7 +7,7 @@
 // kept here because every amount routine reads it.
 struct AmountConventions
 {
-    int tlonda = 2;                // decimals of money amounts
+    int tlonda = 2; // decimals of money amounts
     QChar decimalSeparator = u'.';
     QChar thousandsSeparator = u',';
     QString currencyWord = QStringLiteral("YTL");

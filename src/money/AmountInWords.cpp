@@ -9,29 +9,24 @@ namespace {
 
 const std::array<QString, 10> &ones()
 {
-    static const std::array<QString, 10> words = {
-        QString(),           QStringLiteral("bir"),  QStringLiteral("iki"),
-        QStringLiteral("üç"), QStringLiteral("dört"), QStringLiteral("beş"),
-        QStringLiteral("altı"), QStringLiteral("yedi"), QStringLiteral("sekiz"),
-        QStringLiteral("dokuz")};
+    static const std::array<QString, 10> words = { QString(), QStringLiteral("bir"), QStringLiteral("iki"),
+        QStringLiteral("üç"), QStringLiteral("dört"), QStringLiteral("beş"), QStringLiteral("altı"),
+        QStringLiteral("yedi"), QStringLiteral("sekiz"), QStringLiteral("dokuz") };
     return words;
 }
 
 const std::array<QString, 10> &tens()
 {
-    static const std::array<QString, 10> words = {
-        QString(),              QStringLiteral("on"),    QStringLiteral("yirmi"),
-        QStringLiteral("otuz"), QStringLiteral("kırk"),  QStringLiteral("elli"),
-        QStringLiteral("altmış"), QStringLiteral("yetmiş"), QStringLiteral("seksen"),
-        QStringLiteral("doksan")};
+    static const std::array<QString, 10> words = { QString(), QStringLiteral("on"), QStringLiteral("yirmi"),
+        QStringLiteral("otuz"), QStringLiteral("kırk"), QStringLiteral("elli"), QStringLiteral("altmış"),
+        QStringLiteral("yetmiş"), QStringLiteral("seksen"), QStringLiteral("doksan") };
     return words;
 }
 
 const std::array<QString, 6> &groups()
 {
-    static const std::array<QString, 6> words = {
-        QString(), QStringLiteral("bin"), QStringLiteral("milyon"), QStringLiteral("milyar"),
-        QStringLiteral("trilyon"), QStringLiteral("trilyar")};
+    static const std::array<QString, 6> words = { QString(), QStringLiteral("bin"), QStringLiteral("milyon"),
+        QStringLiteral("milyar"), QStringLiteral("trilyon"), QStringLiteral("trilyar") };
     return words;
 }
 
@@ -85,8 +80,7 @@ QString AmountInWords(Currency amount)
 
     const QString digits = subUnitDigits(RoundAmount(amount));
     if (digits.toInt() != 0) {
-        result += u' ' + tens()[digitAt(digits, 0)] + ones()[digitAt(digits, 1)] + u' '
-            + conventions.subUnitWord;
+        result += u' ' + tens()[digitAt(digits, 0)] + ones()[digitAt(digits, 1)] + u' ' + conventions.subUnitWord;
     }
     return result;
 }

@@ -7,7 +7,7 @@ namespace {
 struct DecimalText
 {
     bool negative = false;
-    QString whole;    // digits before the point
+    QString whole; // digits before the point
     QString fraction; // digits after it
 };
 

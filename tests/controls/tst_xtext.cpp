@@ -83,18 +83,30 @@ void TestXText::numberEntry_data()
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<double>("value");
-    QTest::newRow("more decimals than shown") << 1e9 << 2 << "12.345" << "12.35" << 12.345;
-    QTest::newRow("largest value 0 takes no digit") << 0.0 << 0 << "123" << "" << 0.0;
-    QTest::newRow("plus appends 000 past the largest value") << 5.0 << 0 << "5+" << "5,000" << 5000.0;
-    QTest::newRow("digit beyond the largest value") << 99.0 << 0 << "123" << "12" << 12.0;
-    QTest::newRow("point refused after Backspace took it") << 1e9 << 2 << "12.\b.5" << "125.00" << 125.0;
-    QTest::newRow("point with no decimals") << 1e9 << 0 << "1.5" << "15" << 15.0;
-    QTest::newRow("comma is the point") << 1e9 << 2 << "1,5" << "1.50" << 1.5;
-    QTest::newRow("grouped") << 1e9 << 2 << "1234567" << "1,234,567.00" << 1234567.0;
-    QTest::newRow("no leading zero") << 1e9 << 2 << ".5" << ".50" << 0.5;
-    QTest::newRow("letters refused") << 1e9 << 0 << "1a2" << "12" << 12.0;
-    QTest::newRow("backspace to nothing") << 1e9 << 0 << "1\b" << "" << 0.0;
-    QTest::newRow("backspace keeps the rest") << 1e9 << 2 << "12.5\b\b\b" << "1.00" << 1.0;
+    QTest::newRow("more decimals than shown") << 1e9 << 2 << "12.345"
+                                              << "12.35" << 12.345;
+    QTest::newRow("largest value 0 takes no digit") << 0.0 << 0 << "123"
+                                                    << "" << 0.0;
+    QTest::newRow("plus appends 000 past the largest value") << 5.0 << 0 << "5+"
+                                                             << "5,000" << 5000.0;
+    QTest::newRow("digit beyond the largest value") << 99.0 << 0 << "123"
+                                                    << "12" << 12.0;
+    QTest::newRow("point refused after Backspace took it") << 1e9 << 2 << "12.\b.5"
+                                                           << "125.00" << 125.0;
+    QTest::newRow("point with no decimals") << 1e9 << 0 << "1.5"
+                                            << "15" << 15.0;
+    QTest::newRow("comma is the point") << 1e9 << 2 << "1,5"
+                                        << "1.50" << 1.5;
+    QTest::newRow("grouped") << 1e9 << 2 << "1234567"
+                             << "1,234,567.00" << 1234567.0;
+    QTest::newRow("no leading zero") << 1e9 << 2 << ".5"
+                                     << ".50" << 0.5;
+    QTest::newRow("letters refused") << 1e9 << 0 << "1a2"
+                                     << "12" << 12.0;
+    QTest::newRow("backspace to nothing") << 1e9 << 0 << "1\b"
+                                          << "" << 0.0;
+    QTest::newRow("backspace keeps the rest") << 1e9 << 2 << "12.5\b\b\b"
+                                              << "1.00" << 1.0;
 }
 
 void TestXText::numberEntry()
@@ -142,12 +154,24 @@ void TestXText::dateEntry_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("left");
     QTest::addColumn<qint64>("value");
-    QTest::newRow("eight digits") << "01012010" << "01.01.2010" << "01.01.2010" << qint64(40179);
-    QTest::newRow("end of 2009") << "31122009" << "31.12.2009" << "31.12.2009" << qint64(40178);
-    QTest::newRow("no 31 February") << "31022010" << "31.02.2010" << "??.??.????" << qint64(0);
-    QTest::newRow("letters swallowed") << "01a01-2010" << "01.01.2010" << "01.01.2010" << qint64(40179);
-    QTest::newRow("backspace after the day's dot") << "120\b\b" << "1" << "??.??.????" << qint64(0);
-    QTest::newRow("backspace after the month's dot") << "12035\b\b" << "12.0" << "??.??.????" << qint64(0);
+    QTest::newRow("eight digits") << "01012010"
+                                  << "01.01.2010"
+                                  << "01.01.2010" << qint64(40179);
+    QTest::newRow("end of 2009") << "31122009"
+                                 << "31.12.2009"
+                                 << "31.12.2009" << qint64(40178);
+    QTest::newRow("no 31 February") << "31022010"
+                                    << "31.02.2010"
+                                    << "??.??.????" << qint64(0);
+    QTest::newRow("letters swallowed") << "01a01-2010"
+                                       << "01.01.2010"
+                                       << "01.01.2010" << qint64(40179);
+    QTest::newRow("backspace after the day's dot") << "120\b\b"
+                                                   << "1"
+                                                   << "??.??.????" << qint64(0);
+    QTest::newRow("backspace after the month's dot") << "12035\b\b"
+                                                     << "12.0"
+                                                     << "??.??.????" << qint64(0);
 }
 
 void TestXText::dateEntry()
@@ -173,9 +197,12 @@ void TestXText::dateTips_data()
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("tip");
-    QTest::newRow("date") << QVariant(QDate(2026, 11, 16)) << "16.11.2026" << " 16 Kasım 2026 Pazartesi ";
-    QTest::newRow("day number") << QVariant(40179) << "01.01.2010" << " 01 Ocak 2010 Cuma ";
-    QTest::newRow("no date") << QVariant(QDate()) << "" << " Hatalı Tarih ";
+    QTest::newRow("date") << QVariant(QDate(2026, 11, 16)) << "16.11.2026"
+                          << " 16 Kasım 2026 Pazartesi ";
+    QTest::newRow("day number") << QVariant(40179) << "01.01.2010"
+                                << " 01 Ocak 2010 Cuma ";
+    QTest::newRow("no date") << QVariant(QDate()) << ""
+                             << " Hatalı Tarih ";
 }
 
 void TestXText::dateTips()
@@ -198,7 +225,7 @@ void TestXText::dateChangeComesBeforeTheDigit()
     connect(field, &XText::Change, this, [&] { seen << field->Text(); });
     enter(field);
     typeKeys(field->textBox(), QStringLiteral("123"));
-    QCOMPARE(seen, QStringList({"", "1", "12."}));
+    QCOMPARE(seen, QStringList({ "", "1", "12." }));
     QCOMPARE(field->Text(), QStringLiteral("12.3"));
 }
 
@@ -323,14 +350,14 @@ void TestXText::lockedNumberRefusesTyping()
 void TestXText::counterFromTheStoredDesign()
 {
     XText *field = m_window->field();
-    field->loadDesign({{"xtexttip", "3"}});
+    field->loadDesign({ { "xtexttip", "3" } });
     QCOMPARE(field->TextTip(), int(XText::CounterFormat));
     QVERIFY(field->AutoSelect());
     enter(field);
     QList<int> values;
     connect(field, &XText::Change, this, [&] { values << field->Value().toInt(); });
     typeKeys(field->textBox(), QStringLiteral("++-7x"));
-    QCOMPARE(values, QList<int>({1, 2, 1, 7, 7}));
+    QCOMPARE(values, QList<int>({ 1, 2, 1, 7, 7 }));
     QCOMPARE(field->Text(), QString());
 }
 

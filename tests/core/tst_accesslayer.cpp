@@ -3,6 +3,7 @@
 #include "money/Currency.h"
 #include "money/DayNumber.h"
 #include "testsupport/MessageLog.h"
+#include "testsupport/QueryTexts.h"
 #include "testsupport/TestDataFolder.h"
 
 #include <QtTest>
@@ -35,18 +36,6 @@ bool addTransaction(const QString &code, QDate date, int side, const QString &am
     FieldWrite(carhar(), QStringLiteral("ba"), side);
     FieldWrite(carhar(), QStringLiteral("tutar"), QVariant::fromValue(Currency::fromString(amount)));
     return RsUpdate(carhar());
-}
-
-QStringList column(const QString &sql, const QString &field, const QVariantList &values = {})
-{
-    QStringList texts;
-    std::unique_ptr<Recordset> rows;
-    if (QueryOpen(*dataFiles().db, rows, sql, values)) {
-        do
-            texts << FieldRead(*rows, field).toString();
-        while (RsNext(*rows));
-    }
-    return texts;
 }
 
 } // namespace
@@ -186,8 +175,8 @@ void TestAccessLayer::autoNumbersFollowInsertionAndAreNeverReused()
     QCOMPARE(FieldRead(carhar(), QStringLiteral("oto")).toInt(), 3);
     QVERIFY(RsDelete(carhar()));
     QVERIFY(addTransaction(QStringLiteral("A"), QDate(2026, 1, 1), 0, QStringLiteral("1")));
-    QCOMPARE(column(QStringLiteral("SELECT oto FROM carhar ORDER BY oto"), QStringLiteral("oto")),
-             QStringList({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("4")}));
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT oto FROM carhar ORDER BY oto"), QStringLiteral("oto")),
+        QStringList({ QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("4") }));
     QVERIFY(RsSeek(carhar(), QStringLiteral("oto"), 2));
     QVERIFY(RsNext(carhar()));
     QCOMPARE(FieldRead(carhar(), QStringLiteral("oto")).toInt(), 4);
@@ -195,13 +184,13 @@ void TestAccessLayer::autoNumbersFollowInsertionAndAreNeverReused()
 
 void TestAccessLayer::turkishOrder()
 {
-    const QStringList names = {QStringLiteral("Çiçek"), QStringLiteral("Cem"), QStringLiteral("İsmail"),
-                               QStringLiteral("Işık"), QStringLiteral("Ömer"), QStringLiteral("Oya")};
-    const QStringList sorted = {QStringLiteral("Cem"), QStringLiteral("Çiçek"), QStringLiteral("Işık"),
-                                QStringLiteral("İsmail"), QStringLiteral("Oya"), QStringLiteral("Ömer")};
+    const QStringList names = { QStringLiteral("Çiçek"), QStringLiteral("Cem"), QStringLiteral("İsmail"),
+        QStringLiteral("Işık"), QStringLiteral("Ömer"), QStringLiteral("Oya") };
+    const QStringList sorted = { QStringLiteral("Cem"), QStringLiteral("Çiçek"), QStringLiteral("Işık"),
+        QStringLiteral("İsmail"), QStringLiteral("Oya"), QStringLiteral("Ömer") };
     for (const QString &name : names)
         QVERIFY(addCard(name, name));
-    QCOMPARE(column(QStringLiteral("SELECT unv FROM carkart ORDER BY unv"), QStringLiteral("unv")), sorted);
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT unv FROM carkart ORDER BY unv"), QStringLiteral("unv")), sorted);
 
     QVERIFY(RsSeek(carkart(), QStringLiteral("kod"), QStringLiteral("Cem")));
     QStringList walked;
@@ -209,9 +198,9 @@ void TestAccessLayer::turkishOrder()
         walked << FieldRead(carkart(), QStringLiteral("kod")).toString();
     while (RsNext(carkart()));
     QCOMPARE(walked, sorted);
-    QCOMPARE(column(QStringLiteral("SELECT kod FROM carkart WHERE kod > ?1 AND kod < ?2 ORDER BY kod"),
-                    QStringLiteral("kod"), {QStringLiteral("C"), QStringLiteral("J")}),
-             sorted.mid(0, 4));
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT kod FROM carkart WHERE kod > ?1 AND kod < ?2 ORDER BY kod"),
+                 QStringLiteral("kod"), { QStringLiteral("C"), QStringLiteral("J") }),
+        sorted.mid(0, 4));
 }
 
 void TestAccessLayer::turkishCaseFolding_data()
@@ -219,10 +208,14 @@ void TestAccessLayer::turkishCaseFolding_data()
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("sought");
     QTest::addColumn<bool>("found");
-    QTest::newRow("dotless ı finds I") << "IŞIK" << "ışık" << true;
-    QTest::newRow("i finds İ") << "İSMAİL" << "ismail" << true;
-    QTest::newRow("i does not find I") << "IRMAK" << "irmak" << false;
-    QTest::newRow("c does not find ç") << "ÇAM" << "cam" << false;
+    QTest::newRow("dotless ı finds I") << "IŞIK"
+                                       << "ışık" << true;
+    QTest::newRow("i finds İ") << "İSMAİL"
+                               << "ismail" << true;
+    QTest::newRow("i does not find I") << "IRMAK"
+                                       << "irmak" << false;
+    QTest::newRow("c does not find ç") << "ÇAM"
+                                       << "cam" << false;
 }
 
 void TestAccessLayer::turkishCaseFolding()
@@ -254,7 +247,7 @@ void TestAccessLayer::movesStopAtBothEnds()
 
 void TestAccessLayer::editAndDelete()
 {
-    for (const char16_t *code : {u"A", u"B", u"C"})
+    for (const char16_t *code : { u"A", u"B", u"C" })
         QVERIFY(addCard(QString::fromUtf16(code)));
     QVERIFY(RsSeek(carkart(), QStringLiteral("kod"), QStringLiteral("B")));
     QVERIFY(RsEdit(carkart()));
@@ -277,9 +270,10 @@ void TestAccessLayer::quotesInTextsAreJustText()
     const QString title = QStringLiteral("O'Neil'; DROP TABLE carkart; --");
     QVERIFY(addCard(QStringLiteral("Q'1"), title));
     QVERIFY(CariExists(QStringLiteral("Q'1")));
-    QCOMPARE(column(QStringLiteral("SELECT kod FROM carkart WHERE unv = ?1"), QStringLiteral("kod"), {title}),
-             QStringList{QStringLiteral("Q'1")});
-    QVERIFY(SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM carkart WHERE kod = ?1"), {QStringLiteral("Q'1")}));
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT kod FROM carkart WHERE unv = ?1"), QStringLiteral("kod"), { title }),
+        QStringList { QStringLiteral("Q'1") });
+    QVERIFY(
+        SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM carkart WHERE kod = ?1"), { QStringLiteral("Q'1") }));
     QCOMPARE(RsCount(carkart()), qint64(0));
     QVERIFY(m_messages->entries().isEmpty());
 }
@@ -290,7 +284,7 @@ void TestAccessLayer::queriesReportEmptyAndBadSql()
     QVERIFY(!QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT * FROM carkart")));
     QVERIFY(m_messages->entries().isEmpty());
     QVERIFY(!QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT * FROM nowhere")));
-    QCOMPARE(m_messages->texts(), QStringList{QStringLiteral("Sql Rapor Yaratılamıyor")});
+    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Sql Rapor Yaratılamıyor") });
     QCOMPARE(m_messages->entries().first().kind, Message::Kind::Exclamation);
     QVERIFY(!SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM nowhere")));
 }
@@ -302,15 +296,16 @@ void TestAccessLayer::sqlOnDayNumbersAndAmounts()
     QVERIFY(addTransaction(QStringLiteral("A"), QDate(2026, 2, 1), 1, QStringLiteral("250.5")));
     std::unique_ptr<Recordset> rows;
     QVERIFY(QueryOpen(*dataFiles().db, rows,
-                      QStringLiteral("SELECT sum(tutar * (ba = 0)) AS borc, sum(tutar * (ba <> 0)) AS alacak, "
-                                     "count(*) AS adet FROM carhar WHERE year(tarih) = 2026 AND tarih >= ?1"),
-                      {DayNumber(QDate(2026, 1, 1))}));
+        QStringLiteral("SELECT sum(tutar * (ba = 0)) AS borc, sum(tutar * (ba <> 0)) AS alacak, "
+                       "count(*) AS adet FROM carhar WHERE year(tarih) = 2026 AND tarih >= ?1"),
+        { DayNumber(QDate(2026, 1, 1)) }));
     QCOMPARE(RsCount(*rows), qint64(1));
     QCOMPARE(FieldRead(*rows, QStringLiteral("borc")).toLongLong(), qint64(10001234));
     QCOMPARE(FieldRead(*rows, QStringLiteral("alacak")).toLongLong(), qint64(2505000));
     QCOMPARE(FieldRead(*rows, QStringLiteral("adet")).toLongLong(), qint64(2));
 
-    QVERIFY(QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT sum(tutar) AS toplam FROM carhar WHERE kod = 'X'")));
+    QVERIFY(
+        QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT sum(tutar) AS toplam FROM carhar WHERE kod = 'X'")));
     QCOMPARE(FieldRead(*rows, QStringLiteral("toplam")), QVariant(0)); // a sum over no rows reads 0
 
     QVERIFY(QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT * FROM carhar ORDER BY oto")));

@@ -4,6 +4,7 @@
 #include "core/StartRoutine.h"
 #include "money/AmountConventions.h"
 #include "testsupport/MessageLog.h"
+#include "testsupport/QueryTexts.h"
 
 #include <QtTest>
 
@@ -24,15 +25,8 @@ bool writeFile(const QString &path, const QByteArray &bytes)
 // "name type" per column of a table, in order, as the data file declares them.
 QStringList columnsOf(const QString &table)
 {
-    QStringList columns;
-    std::unique_ptr<Recordset> rows;
-    if (QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT name, type FROM pragma_table_info(?1)"), {table})) {
-        do
-            columns << FieldRead(*rows, QStringLiteral("name")).toString() + u' '
-                    + FieldRead(*rows, QStringLiteral("type")).toString();
-        while (RsNext(*rows));
-    }
-    return columns;
+    return QueryTexts(
+        QStringLiteral("SELECT name || ' ' || type AS c FROM pragma_table_info(?1)"), QStringLiteral("c"), { table });
 }
 
 } // namespace
@@ -76,8 +70,8 @@ void TestDataFiles::firstStartCreatesTheBook()
     QVERIFY(m_messages->entries().isEmpty());
     QVERIFY(QFile::exists(m_dir->filePath(QStringLiteral("xsmm.dat"))));
     QCOMPARE(DataFilePath(), m_dir->filePath(QStringLiteral("xsmm.dat")));
-    for (Recordset *cursor : {dataFiles().genel.get(), dataFiles().carkart.get(), dataFiles().carhar.get(),
-                              dataFiles().defter.get(), dataFiles().duzen.get()}) {
+    for (Recordset *cursor : { dataFiles().genel.get(), dataFiles().carkart.get(), dataFiles().carhar.get(),
+             dataFiles().defter.get(), dataFiles().duzen.get() }) {
         QVERIFY(cursor);
         QCOMPARE(RsCount(*cursor), qint64(0));
     }
@@ -91,27 +85,27 @@ void TestDataFiles::schema_data()
     QTest::addColumn<QStringList>("columns");
     QTest::addColumn<QStringList>("expectedIndexes"); // the auto-numbers are the row numbers themselves
     QTest::newRow("genel") << "genel"
-                           << QStringList{"kod TEXT(8)", "sing FLOAT", "byt TINYINT", "integ SMALLINT",
-                                          "curren CURRENCY", "txt TEXT(40)"}
-                           << QStringList{"genel_kod 1"};
+                           << QStringList { "kod TEXT(8)", "sing FLOAT", "byt TINYINT", "integ SMALLINT",
+                                  "curren CURRENCY", "txt TEXT(40)" }
+                           << QStringList { "genel_kod 1" };
     QTest::newRow("carkart") << "carkart"
-                             << QStringList{"kod TEXT(8)",  "unv TEXT(50)",  "adr1 TEXT(50)", "adr2 TEXT(50)",
-                                            "vd TEXT(15)",  "vn TEXT(15)",   "ucret CURRENCY", "tip TINYINT",
-                                            "not1 TEXT(50)", "not2 TEXT(50)", "not3 TEXT(50)", "not4 TEXT(50)"}
-                             << QStringList{"carkart_kod 1"};
+                             << QStringList { "kod TEXT(8)", "unv TEXT(50)", "adr1 TEXT(50)", "adr2 TEXT(50)",
+                                    "vd TEXT(15)", "vn TEXT(15)", "ucret CURRENCY", "tip TINYINT", "not1 TEXT(50)",
+                                    "not2 TEXT(50)", "not3 TEXT(50)", "not4 TEXT(50)" }
+                             << QStringList { "carkart_kod 1" };
     QTest::newRow("carhar") << "carhar"
-                            << QStringList{"kod TEXT(8)", "tarih DATE",  "islem TINYINT",  "evrak TEXT(8)",
-                                           "ack TEXT(40)", "ba TINYINT", "tutar CURRENCY", "oto INTEGER"}
-                            << QStringList{"carhar_kodtarih 0"};
+                            << QStringList { "kod TEXT(8)", "tarih DATE", "islem TINYINT", "evrak TEXT(8)",
+                                   "ack TEXT(40)", "ba TINYINT", "tutar CURRENCY", "oto INTEGER" }
+                            << QStringList { "carhar_kodtarih 0" };
     QTest::newRow("defter") << "defter"
-                            << QStringList{"sira SMALLINT", "tarih DATE",      "islem TINYINT", "evrak TEXT(8)",
-                                           "cari TEXT(8)",  "ack TEXT(40)",     "brut CURRENCY", "stopaj CURRENCY",
-                                           "fon CURRENCY",  "kdv CURRENCY",     "oto INTEGER"}
-                            << QStringList{};
+                            << QStringList { "sira SMALLINT", "tarih DATE", "islem TINYINT", "evrak TEXT(8)",
+                                   "cari TEXT(8)", "ack TEXT(40)", "brut CURRENCY", "stopaj CURRENCY", "fon CURRENCY",
+                                   "kdv CURRENCY", "oto INTEGER" }
+                            << QStringList {};
     QTest::newRow("duzen") << "duzen"
-                           << QStringList{"sira INTEGER", "no SMALLINT", "uzun FLOAT", "sol FLOAT", "ust FLOAT",
-                                          "txt TEXT(40)"}
-                           << QStringList{};
+                           << QStringList { "sira INTEGER", "no SMALLINT", "uzun FLOAT", "sol FLOAT", "ust FLOAT",
+                                  "txt TEXT(40)" }
+                           << QStringList {};
 }
 
 void TestDataFiles::schema()
@@ -123,14 +117,9 @@ void TestDataFiles::schema()
     QVERIFY(CreateDataFiles());
     QVERIFY(OpenDataFiles());
     QCOMPARE(columnsOf(table), columns);
-    std::unique_ptr<Recordset> rows;
-    QStringList indexes;
-    if (QueryOpen(*dataFiles().db, rows,
-                  QStringLiteral("SELECT name, \"unique\" AS u FROM pragma_index_list(?1) ORDER BY name"), {table})) {
-        do
-            indexes << FieldRead(*rows, QStringLiteral("name")).toString() + u' ' + FieldRead(*rows, QStringLiteral("u")).toString();
-        while (RsNext(*rows));
-    }
+    const QStringList indexes
+        = QueryTexts(QStringLiteral("SELECT name || ' ' || \"unique\" AS i FROM pragma_index_list(?1) ORDER BY name"),
+            QStringLiteral("i"), { table });
     QCOMPARE(indexes, expectedIndexes);
 }
 
@@ -167,9 +156,9 @@ void TestDataFiles::unusableFileIsLeftAlone()
     StartRoutine start;
     QVERIFY(!start.run(m_dir->path()));
     QCOMPARE(m_messages->texts(),
-             QStringList({QStringLiteral("\nSql Dosyası Yaratılamadı."), QStringLiteral("Dosyalar Yaratılamıyor...")}));
+        QStringList({ QStringLiteral("\nSql Dosyası Yaratılamadı."), QStringLiteral("Dosyalar Yaratılamıyor...") }));
     QCOMPARE(contents(path), bytes);
-    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList{QStringLiteral("xsmm.dat")});
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList { QStringLiteral("xsmm.dat") });
 }
 
 QTEST_MAIN(TestDataFiles)

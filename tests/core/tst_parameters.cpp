@@ -12,7 +12,7 @@ namespace {
 qint64 rowsFor(const QString &key)
 {
     std::unique_ptr<Recordset> rows;
-    if (!QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT count(*) AS n FROM genel WHERE kod = ?1"), {key}))
+    if (!QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT count(*) AS n FROM genel WHERE kod = ?1"), { key }))
         return -1;
     return FieldRead(*rows, QStringLiteral("n")).toLongLong();
 }
@@ -116,7 +116,7 @@ void TestParameters::tooLongKeyIsRefused()
         GenelTxtSet(key, QStringLiteral("a"));
     else
         GenelIntegSet(key, 7);
-    QCOMPARE(m_messages->texts(), QStringList{message});
+    QCOMPARE(m_messages->texts(), QStringList { message });
     QCOMPARE(m_messages->entries().first().kind, Message::Kind::Exclamation);
     QCOMPARE(GenelTxtGet(key), QString());
     QCOMPARE(GenelIntegGet(key), 0);

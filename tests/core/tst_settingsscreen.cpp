@@ -8,6 +8,7 @@
 #include "money/AmountConventions.h"
 #include "money/FormatAmount.h"
 #include "testsupport/MessageLog.h"
+#include "testsupport/QueryTexts.h"
 #include "testsupport/TestDataFolder.h"
 #include "testsupport/Typing.h"
 
@@ -22,14 +23,7 @@ namespace {
 
 QStringList genelRows()
 {
-    QStringList rows;
-    std::unique_ptr<Recordset> query;
-    if (QueryOpen(*dataFiles().db, query, QStringLiteral("SELECT kod FROM genel ORDER BY kod"))) {
-        do
-            rows << FieldRead(*query, QStringLiteral("kod")).toString();
-        while (RsNext(*query));
-    }
-    return rows;
+    return QueryTexts(QStringLiteral("SELECT kod FROM genel ORDER BY kod"), QStringLiteral("kod"));
 }
 
 } // namespace
@@ -109,8 +103,8 @@ void TestSettingsScreen::opensFromTheMenu()
 
 void TestSettingsScreen::labelsNameTheFields()
 {
-    const QStringList labels = {"Stopaj Oran %", "Fon Oran %", "K.D.V. Oran %", "TL Onda", "Makbuz Seri No",
-                                "Emanet Seri No", "Not 1 İsim", "Not 2 İsim", "Not 3 İsim", "Not 4 İsim", "Ünvan"};
+    const QStringList labels = { "Stopaj Oran %", "Fon Oran %", "K.D.V. Oran %", "TL Onda", "Makbuz Seri No",
+        "Emanet Seri No", "Not 1 İsim", "Not 2 İsim", "Not 3 İsim", "Not 4 İsim", "Ünvan" };
     for (int i = 0; i < labels.size(); ++i) {
         QCOMPARE(field(i)->accessibleName(), labels[i]);
         QCOMPARE(field(i)->textBox()->accessibleName(), labels[i]);
@@ -158,7 +152,8 @@ void TestSettingsScreen::saveStoresEveryParameterOnce()
     QCOMPARE(GenelCurrenGet(QStringLiteral("emanet")), Currency::fromUnits(7));
     QCOMPARE(GenelTxtGet(QStringLiteral("not1")), QStringLiteral("Telefon"));
     QCOMPARE(GenelTxtGet(QStringLiteral("unvan")), QStringLiteral("Av. Şule Işık"));
-    const QStringList keys = {"emanet", "fon", "kdv", "not1", "not2", "not3", "not4", "serino", "stopaj", "tlonda", "unvan"};
+    const QStringList keys
+        = { "emanet", "fon", "kdv", "not1", "not2", "not3", "not4", "serino", "stopaj", "tlonda", "unvan" };
     QCOMPARE(genelRows(), keys);
 
     m_window->menuItem(QStringLiteral("mnuayarlar"))->trigger();

@@ -21,16 +21,16 @@ void TestShrinkEffect::steps_data()
     QTest::addColumn<bool>("towardCentre");
     QTest::addColumn<ShrinkRect>("first");
     QTest::addColumn<ShrinkRect>("last");
-    QTest::newRow("centre") << ShrinkRect{0, 0, 400, 200} << true << ShrinkRect{10, 5, 390, 195}
-                            << ShrinkRect{200, 100, 200, 100};
-    QTest::newRow("centre, half step to even (down)") << ShrinkRect{0, 0, 100, 100} << true
-                                                      << ShrinkRect{2, 2, 98, 98} << ShrinkRect{40, 40, 60, 60};
-    QTest::newRow("centre, half step to even (up)") << ShrinkRect{0, 0, 140, 140} << true
-                                                    << ShrinkRect{4, 4, 136, 136} << ShrinkRect{80, 80, 60, 60};
-    QTest::newRow("origin") << ShrinkRect{100, 40, 500, 240} << false << ShrinkRect{95, 38, 475, 228}
-                            << ShrinkRect{0, 0, 0, 0};
-    QTest::newRow("origin, rounded steps") << ShrinkRect{30, 50, 330, 250} << false
-                                           << ShrinkRect{28, 48, 314, 238} << ShrinkRect{-10, 10, 10, 10};
+    QTest::newRow("centre") << ShrinkRect { 0, 0, 400, 200 } << true << ShrinkRect { 10, 5, 390, 195 }
+                            << ShrinkRect { 200, 100, 200, 100 };
+    QTest::newRow("centre, half step to even (down)")
+        << ShrinkRect { 0, 0, 100, 100 } << true << ShrinkRect { 2, 2, 98, 98 } << ShrinkRect { 40, 40, 60, 60 };
+    QTest::newRow("centre, half step to even (up)")
+        << ShrinkRect { 0, 0, 140, 140 } << true << ShrinkRect { 4, 4, 136, 136 } << ShrinkRect { 80, 80, 60, 60 };
+    QTest::newRow("origin") << ShrinkRect { 100, 40, 500, 240 } << false << ShrinkRect { 95, 38, 475, 228 }
+                            << ShrinkRect { 0, 0, 0, 0 };
+    QTest::newRow("origin, rounded steps") << ShrinkRect { 30, 50, 330, 250 } << false
+                                           << ShrinkRect { 28, 48, 314, 238 } << ShrinkRect { -10, 10, 10, 10 };
 }
 
 void TestShrinkEffect::steps()
@@ -47,7 +47,7 @@ void TestShrinkEffect::steps()
 
 void TestShrinkEffect::narrowWindowInvertsAfterFifteenSteps()
 {
-    const std::vector<ShrinkRect> steps = ShrinkSteps(ShrinkRect{0, 0, 30, 400}, true);
+    const std::vector<ShrinkRect> steps = ShrinkSteps(ShrinkRect { 0, 0, 30, 400 }, true);
     QCOMPARE(steps[14].left, 15);
     QCOMPARE(steps[14].right, 15);
     QVERIFY(steps[15].left > steps[15].right);

@@ -3,7 +3,7 @@
 MessageLog::MessageLog()
 {
     Message::setResponder([this](Message::Kind kind, const QString &text) {
-        m_entries << Entry{kind, text};
+        m_entries << Entry { kind, text };
         return m_answers.isEmpty() ? false : m_answers.takeFirst();
     });
 }

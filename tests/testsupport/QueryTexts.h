@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QStringList>
+#include <QVariantList>
+
+// One field of every row of a query on the open data file, as texts.
+QStringList QueryTexts(const QString &sql, const QString &field, const QVariantList &values = {});
