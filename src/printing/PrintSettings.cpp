@@ -1,0 +1,12 @@
+#include "printing/PrintSettings.h"
+
+PrintSettings &printSettings()
+{
+    static PrintSettings record;
+    return record;
+}
+
+void ResetPrintSettings()
+{
+    printSettings() = PrintSettings();
+}
