@@ -33,32 +33,37 @@ double GraphicDocument::printableHeight() const
     return m_printer->pageLayout().paintRectPixels(m_printer->resolution()).height();
 }
 
-QFont GraphicDocument::deviceFont(const QFont &font) const
-{
-    QFont device = font;
-    device.setPixelSize(qMax(1, qRound(font.pointSizeF() * m_printer->resolution() / 72.0)));
-    return device;
-}
-
 double GraphicDocument::textWidth(const QFont &font, const QString &text) const
 {
-    return QFontMetricsF(deviceFont(font), m_printer.get()).horizontalAdvance(text);
+    return QFontMetricsF(font, m_printer.get()).horizontalAdvance(text);
 }
 
 double GraphicDocument::lineHeight(const QFont &font) const
 {
-    return QFontMetricsF(deviceFont(font), m_printer.get()).height();
+    return QFontMetricsF(font, m_printer.get()).height();
 }
 
 void GraphicDocument::beginPage()
 {
-    m_pages.push_back(std::make_unique<QPicture>());
-    m_painter = std::make_unique<QPainter>(m_pages.back().get());
+    m_pages.emplace_back();
+    m_pageOpen = true;
 }
 
 void GraphicDocument::endPage()
 {
-    m_painter.reset();
+    m_pageOpen = false;
+}
+
+void GraphicDocument::drawText(const QRect &field, Qt::Alignment alignment, const QFont &font, const QString &text)
+{
+    if (m_pageOpen)
+        m_pages.back().push_back(Item{field, QLine(), alignment, font, text, false});
+}
+
+void GraphicDocument::drawRule(const QLine &rule)
+{
+    if (m_pageOpen)
+        m_pages.back().push_back(Item{QRect(), rule, Qt::Alignment(), QFont(), QString(), true});
 }
 
 void GraphicDocument::play(QPrinter *printer) const
@@ -67,13 +72,22 @@ void GraphicDocument::play(QPrinter *printer) const
     for (size_t i = 0; i < m_pages.size(); ++i) {
         if (i > 0)
             printer->newPage();
-        m_pages[i]->play(&painter);
+        for (const Item &item : m_pages[i]) {
+            if (item.isRule) {
+                painter.drawLine(item.rule);
+                continue;
+            }
+            painter.setFont(item.font);
+            painter.setClipRect(item.field);
+            painter.drawText(item.field, int(item.alignment | Qt::AlignVCenter | Qt::TextSingleLine), item.text);
+            painter.setClipping(false);
+        }
     }
 }
 
 bool GraphicDocument::finish()
 {
-    m_painter.reset();
+    m_pageOpen = false;
     if (m_pages.empty())
         return true;
     if (m_target == PrintSettings::GraphicTarget::Preview) {

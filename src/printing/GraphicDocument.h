@@ -3,7 +3,8 @@
 #include "printing/PrintSettings.h"
 
 #include <QFont>
-#include <QPicture>
+#include <QLine>
+#include <QRect>
 #include <QString>
 
 #include <memory>
@@ -12,9 +13,9 @@
 class QPainter;
 class QPrinter;
 
-// One graphic printout. Pages are drawn in the target printer's device pixels and kept until
-// the document ends; then they go to the printer or the PDF file, or into a preview from which
-// the user prints them.
+// One graphic printout. Its pages are kept as the texts and rules drawn on them, in the target
+// printer's device pixels, until the document ends; then they go to the printer or the PDF
+// file, or into a preview from which the user prints them.
 class GraphicDocument
 {
 public:
@@ -23,23 +24,33 @@ public:
 
     double printableWidth() const;
     double printableHeight() const;
-    // The font at the target's resolution (its size fixed in device pixels).
-    QFont deviceFont(const QFont &font) const;
     double textWidth(const QFont &font, const QString &text) const;
     double lineHeight(const QFont &font) const;
 
     void beginPage();
     void endPage();
-    // The painter of the page being drawn; nullptr between pages.
-    QPainter *painter() const { return m_painter.get(); }
+    bool pageOpen() const { return m_pageOpen; }
+    // Text in a field, one line, clipped to the field.
+    void drawText(const QRect &field, Qt::Alignment alignment, const QFont &font, const QString &text);
+    void drawRule(const QLine &rule);
     // Sends the pages out; false when the target cannot be written.
     bool finish();
 
 private:
+    struct Item
+    {
+        QRect field;
+        QLine rule;
+        Qt::Alignment alignment;
+        QFont font;
+        QString text;
+        bool isRule = false;
+    };
+    using Page = std::vector<Item>;
     void play(QPrinter *printer) const;
 
     std::unique_ptr<QPrinter> m_printer;
     PrintSettings::GraphicTarget m_target;
-    std::vector<std::unique_ptr<QPicture>> m_pages;
-    std::unique_ptr<QPainter> m_painter;
+    std::vector<Page> m_pages;
+    bool m_pageOpen = false;
 };

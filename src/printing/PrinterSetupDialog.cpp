@@ -159,6 +159,7 @@ PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
     printSettings().confirmed = false;
     m_ok->setEnabled(false);
     m_choosePrinter->setEnabled(false);
+    m_preview->setEnabled(false);
     showRecord();
 }
 

@@ -5,8 +5,6 @@
 #include "printing/PrintSettings.h"
 #include "printing/RawText.h"
 
-#include <QPainter>
-
 #include <cmath>
 
 Prnx::Prnx()
@@ -113,9 +111,7 @@ void Prnx::Lprint(const QString &text, int en, bool LineFeed, int algn, bool koy
 void Prnx::LinePrint(int en, bool koyu, bool LineFeed)
 {
     if (m_kind == Graphic) {
-        const QLine rule = m_grid.placeRule(en);
-        if (QPainter *painter = m_document->painter())
-            painter->drawLine(rule);
+        m_document->drawRule(m_grid.placeRule(en));
     } else if (m_kind == Raw) {
         rawOutput(QString(qMax(en, 0), u'_'), LineFeed, koyu, false, false);
     }
@@ -130,15 +126,8 @@ void Prnx::drawField(const QString &text, int en, int algn, bool bold, bool ital
     font.setUnderline(underline);
     font.setStrikeOut(strikeOut);
     const QRect field = m_grid.placeField(en, int(std::lround(m_document->textWidth(font, text))));
-    QPainter *painter = m_document->painter();
-    if (!painter)
-        return; // no page is open
     const Qt::Alignment alignment = algn == 1 ? Qt::AlignRight : algn == 2 ? Qt::AlignHCenter : Qt::AlignLeft;
-    painter->setFont(m_document->deviceFont(font));
-    painter->save();
-    painter->setClipRect(field);
-    painter->drawText(field, int(alignment | Qt::AlignVCenter | Qt::TextSingleLine), text);
-    painter->restore();
+    m_document->drawText(field, alignment, font, text); // nothing when no page is open
 }
 
 void Prnx::rawOutput(const QString &text, bool lineEnd, bool bold, bool italic, bool underline)

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QStringList>
+#include <QTcpServer>
+#include <QTemporaryDir>
+
+#include <memory>
+
+// A CUPS scheduler of the test's own (private configuration and socket in a temporary folder)
+// with one raw queue whose device is a TCP listener of this process: what the listener
+// receives is exactly what a network printer would.
+class PrivateSpooler
+{
+public:
+    PrivateSpooler();
+    ~PrivateSpooler();
+    PrivateSpooler(const PrivateSpooler &) = delete;
+    PrivateSpooler &operator=(const PrivateSpooler &) = delete;
+
+    bool isReady() const { return m_ready; }
+    QString error() const { return m_error; }
+    // Adds a raw queue on the listener, the spooler's default unless told otherwise.
+    bool addQueue(const QString &name, bool asDefault = true);
+    bool removeQueue(const QString &name);
+    // The bytes received so far, over all connections.
+    QByteArray received() const { return m_received; }
+    int connections() const { return m_connections; }
+    QStringList jobTitles() const;
+
+private:
+    bool run(const QString &program, const QStringList &arguments);
+    bool writeConfiguration();
+
+    QTemporaryDir m_dir;
+    QString m_socket;
+    QProcess m_cupsd;
+    QTcpServer m_listener;
+    QByteArray m_received;
+    int m_connections = 0;
+    bool m_ready = false;
+    QString m_error;
+};
