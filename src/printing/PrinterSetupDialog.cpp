@@ -125,6 +125,7 @@ PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
     auto *titleRow = new QFormLayout;
     titleRow->addRow(QStringLiteral("Başlık:"), m_title);
     m_title->setAccessibleName(QStringLiteral("Başlık:"));
+    m_title->setMinimumWidth(240);
     headingLayout->addLayout(titleRow);
 
     auto *middle = new QHBoxLayout;
