@@ -137,10 +137,10 @@ bool TableCursor::position(const QString &sql, const QVariantList &values, bool 
     return true;
 }
 
-bool TableCursor::moveFirst()
+bool TableCursor::moveToEnd(Direction direction)
 {
     bool found = false;
-    if (!position(selectSql(QString(), Direction::Forward), {}, &found))
+    if (!position(selectSql(QString(), direction), {}, &found))
         return false;
     if (!found) {
         m_onRecord = false;
@@ -149,16 +149,14 @@ bool TableCursor::moveFirst()
     return found;
 }
 
+bool TableCursor::moveFirst()
+{
+    return moveToEnd(Direction::Forward);
+}
+
 bool TableCursor::moveLast()
 {
-    bool found = false;
-    if (!position(selectSql(QString(), Direction::Backward), {}, &found))
-        return false;
-    if (!found) {
-        m_onRecord = false;
-        m_bof = m_eof = true;
-    }
-    return found;
+    return moveToEnd(Direction::Backward);
 }
 
 bool TableCursor::step(Direction direction)

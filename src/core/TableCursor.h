@@ -46,6 +46,8 @@ private:
     QString selectSql(const QString &where, Direction direction) const;
     // Runs a positioning query; on a row the cursor stands on it. False on an engine error.
     bool position(const QString &sql, const QVariantList &values, bool *found);
+    // To the first (Forward) or last (Backward) record in index order.
+    bool moveToEnd(Direction direction);
     bool step(Direction direction);
     bool fetchRow(qint64 rowid);
     bool insertPending();
