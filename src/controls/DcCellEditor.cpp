@@ -1,0 +1,107 @@
+#include "controls/DcCellEditor.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLocale>
+
+namespace {
+
+double numberOf(const QString &entry)
+{
+    return QLocale::c().toDouble(entry.endsWith(u'.') ? entry + u'0' : entry.isEmpty() ? QStringLiteral("0") : entry);
+}
+
+} // namespace
+
+DcCellEditor::DcCellEditor(QWidget *parent)
+    : QLineEdit(parent)
+{
+    setFrame(false);
+    hide();
+}
+
+void DcCellEditor::open(const DcColumn &column, const QString &value)
+{
+    m_column = column;
+    setText(column.isDate() ? column.display(value) : value);
+    if (column.isNumber()) {
+        setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        setMaxLength(32767);
+        setCursorPosition(0);
+    } else if (column.isDate()) {
+        setAlignment(Qt::AlignCenter);
+        setMaxLength(10);
+        selectAll();
+    } else {
+        setAlignment(column.kind() == u's' ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+        setMaxLength(column.maxValue >= 1 ? int(column.maxValue) : 32767);
+        if (column.kind() == u's')
+            selectAll();
+        else
+            setCursorPosition(0);
+    }
+}
+
+void DcCellEditor::keyPressEvent(QKeyEvent *event)
+{
+    const bool backspace = event->key() == Qt::Key_Backspace;
+    const QString text = event->text();
+    const bool character = backspace || (!text.isEmpty() && text.front().isPrint());
+    if (character && !m_cellLock && typeCharacter(backspace ? QChar(u'\b') : text.front(), backspace))
+        return;
+    QLineEdit::keyPressEvent(event);
+}
+
+bool DcCellEditor::typeCharacter(QChar c, bool backspace)
+{
+    if (m_column.isNumber())
+        return numberCharacter(c, backspace);
+    if (m_column.isDate())
+        return dateCharacter(c, backspace);
+    return false; // the box takes it, up to the column's length
+}
+
+bool DcCellEditor::numberCharacter(QChar c, bool backspace)
+{
+    QString entry = text();
+    if (backspace) {
+        entry.chop(1);
+    } else if (c.isDigit()) {
+        if (numberOf(entry + c) <= m_column.maxValue)
+            entry += c;
+        else
+            QApplication::beep();
+    } else if (c == u'.' || c == u',') {
+        if (m_column.onda > 0 && !entry.contains(u'.'))
+            entry += u'.';
+    } else if (c == u'+') {
+        entry += QStringLiteral("000");
+    } else if (c != u'"') {
+        QApplication::beep();
+    }
+    setText(entry);
+    end(false);
+    return true;
+}
+
+bool DcCellEditor::dateCharacter(QChar c, bool backspace)
+{
+    if (!backspace && !c.isDigit())
+        return true;
+    const QString current = text();
+    if (backspace) {
+        if (current.size() == 3 && current.indexOf(u'.', 1) >= 0)
+            setText(current.left(2));
+        else if (current.size() == 6 && current.indexOf(u'.', 4) >= 0)
+            setText(current.left(5));
+        return false;
+    }
+    if (hasSelectedText())
+        del();
+    if (text().size() == 2 && !text().contains(u'.'))
+        setText(text() + u'.');
+    if (text().size() == 5 && text().indexOf(u'.', 4) < 0)
+        setText(text() + u'.');
+    end(false);
+    return false;
+}

@@ -1,0 +1,798 @@
+#include "controls/DcList.h"
+
+#include "controls/DcCellEditor.h"
+#include "controls/DcListModel.h"
+#include "controls/QuickFont.h"
+#include "controls/SpreadsheetExport.h"
+#include "core/Clock.h"
+#include "core/Message.h"
+
+#include <QApplication>
+#include <QCollator>
+#include <QDateTime>
+#include <QDir>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QScrollBar>
+#include <QStandardPaths>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+const QLocale turkish(QLocale::Turkish, QLocale::Turkey);
+const QString dateFormat = QStringLiteral("dd.MM.yyyy");
+
+// The number a text starts with, in plain decimal notation ("" and other texts: "0").
+QString numericText(const QString &text)
+{
+    QString number;
+    const QString t = text.trimmed();
+    qsizetype i = 0;
+    if (i < t.size() && (t[i] == u'-' || t[i] == u'+'))
+        number += t[i++] == u'-' ? QStringLiteral("-") : QString();
+    bool point = false;
+    for (; i < t.size(); ++i) {
+        if (t[i].isDigit())
+            number += t[i];
+        else if (t[i] == u'.' && !point) {
+            point = true;
+            number += t[i];
+        } else
+            break;
+    }
+    bool ok = false;
+    const double value = QLocale::c().toDouble(number.endsWith(u'.') ? number + u'0' : number, &ok);
+    return ok ? QString::number(value, 'g', 15) : QStringLiteral("0");
+}
+
+QFont headerFont()
+{
+    return QuickFont({QStringLiteral("gridbaslikfontname"), QStringLiteral("gridbaslikfontsize"),
+                      QStringLiteral("gridbaslikfontbold"), QStringLiteral("tahoma"), 10, QStringLiteral("Bold")});
+}
+
+QFont cellFont()
+{
+    return QuickFont({QStringLiteral("griddetayfontname"), QStringLiteral("griddetayfontsize"),
+                      QStringLiteral("griddetayfontbold"), QStringLiteral("courier"), 10, QStringLiteral("Bold")});
+}
+
+QFont namedFont(const QString &name, int size, bool bold)
+{
+    QFont font(name);
+    font.setPointSize(size > 0 ? size : 10);
+    font.setBold(bold);
+    return font;
+}
+
+} // namespace
+
+DcList::DcList(QWidget *parent)
+    : QWidget(parent)
+    , m_view(new QTableView(this))
+    , m_model(new DcListModel(this))
+    , m_editor(new DcCellEditor(m_view->viewport()))
+{
+    m_view->setModel(m_model);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setTabKeyNavigation(false);
+    m_view->setWordWrap(false);
+    m_view->verticalHeader()->hide();
+    m_view->horizontalHeader()->setFont(headerFont());
+    m_view->horizontalHeader()->setHighlightSections(false);
+    m_view->horizontalHeader()->setSectionsClickable(true);
+    m_view->setFont(cellFont());
+    m_view->verticalHeader()->setDefaultSectionSize(QFontMetrics(cellFont()).height() + 2 * 2);
+    m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_view->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    m_view->installEventFilter(this);
+    m_view->viewport()->installEventFilter(this);
+    m_editor->installEventFilter(this);
+    m_editor->setFont(cellFont());
+    setFocusProxy(m_view);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view);
+
+    connect(m_view->horizontalHeader(), &QHeaderView::sectionClicked, this, &DcList::headerClicked);
+    connect(m_view, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {
+        moveTo(index.row());
+        if (m_editable)
+            ChngMode(2);
+    });
+    applyColors();
+}
+
+DcList::~DcList() = default;
+
+// Columns --------------------------------------------------------------------------------
+
+QVariant DcList::Add(const QString &type, const QString &name, const QString &caption, int width, double maxValue,
+                     int kosul, int ondaHane, int binlikAyrac)
+{
+    if (type.isEmpty() || !IsColumnType(type.front()))
+        return QVariant();
+    DcColumn column;
+    column.type = type.front();
+    column.name = name.toUpper();
+    column.caption = caption;
+    column.width = qBound(0, width, 9999);
+    column.maxValue = maxValue;
+    column.kosul = kosul & 0xff;
+    column.onda = ondaHane & 0xff;
+    column.grup = binlikAyrac & 0xff;
+    m_model->addColumn(column);
+    const int index = m_model->columnCount() - 1;
+    m_view->setColumnWidth(index, column.width);
+    m_buffer.append(QString());
+    return index;
+}
+
+void DcList::Reset()
+{
+    m_model->removeColumns();
+    m_buffer.clear();
+}
+
+QString DcList::Baslik(int col) const
+{
+    return col >= 0 && col < m_model->columnCount() ? m_model->columns()[size_t(col)].caption : QString();
+}
+
+void DcList::setBaslik(int col, const QString &caption)
+{
+    if (col < 0 || col >= m_model->columnCount())
+        return;
+    m_model->column(col).caption = caption;
+    emit m_model->headerDataChanged(Qt::Horizontal, col, col);
+}
+
+int DcList::Size(int col) const
+{
+    return col >= 0 && col < m_model->columnCount() ? m_model->columns()[size_t(col)].width : 0;
+}
+
+QString DcList::SectionName(int col) const
+{
+    return col >= 0 && col < m_model->columnCount() ? m_model->columns()[size_t(col)].name : QString();
+}
+
+void DcList::setSectionName(int col, const QString &name)
+{
+    if (col >= 0 && col < m_model->columnCount())
+        m_model->column(col).name = name.toUpper();
+}
+
+double DcList::MaxValue(int col) const
+{
+    return m_model->columns().at(size_t(col)).maxValue;
+}
+
+int DcList::OndaHane(int col) const
+{
+    return m_model->columns().at(size_t(col)).onda;
+}
+
+int DcList::BinlikAyrac(int col) const
+{
+    return m_model->columns().at(size_t(col)).grup;
+}
+
+int DcList::Kosul(int col) const
+{
+    return m_model->columns().at(size_t(col)).kosul;
+}
+
+void DcList::BaslikFont(const QString &name, int size, bool bold)
+{
+    m_view->horizontalHeader()->setFont(namedFont(name, size, bold));
+}
+
+void DcList::TextFont(const QString &name, int size, bool bold)
+{
+    const QFont font = namedFont(name, size, bold);
+    m_view->setFont(font);
+    m_editor->setFont(font);
+    m_view->verticalHeader()->setDefaultSectionSize(QFontMetrics(font).height() + 2 * 2);
+}
+
+// Rows and cells ---------------------------------------------------------------------------
+
+int DcList::CreateNewCaption()
+{
+    return m_model->appendRow();
+}
+
+int DcList::ListCount() const
+{
+    return m_model->rowCount();
+}
+
+QString DcList::Caption(int row, int col) const
+{
+    return m_model->cell(row, col);
+}
+
+void DcList::setCaption(int row, int col, const QString &value)
+{
+    m_model->setCell(row, col, value);
+}
+
+QString DcList::CaptionByName(int row, const QString &name) const
+{
+    return m_model->cell(row, m_model->columnByName(name));
+}
+
+void DcList::setCaptionByName(int row, const QString &name, const QString &value)
+{
+    m_model->setCell(row, m_model->columnByName(name), value);
+}
+
+QString DcList::Text(int col) const
+{
+    return m_buffer.value(col);
+}
+
+void DcList::setText(int col, const QString &value)
+{
+    if (col >= 0 && col < m_buffer.size())
+        m_buffer[col] = value;
+}
+
+QString DcList::TextByName(const QString &name) const
+{
+    return Text(m_model->columnByName(name));
+}
+
+void DcList::setTextByName(const QString &name, const QString &value)
+{
+    setText(m_model->columnByName(name), value);
+}
+
+void DcList::moveTo(int row)
+{
+    if (row < 0 || row >= ListCount())
+        return;
+    m_current = row;
+    const QModelIndex index = m_model->index(row, qMax(0, m_view->currentIndex().column()));
+    m_view->setCurrentIndex(index);
+    m_view->scrollTo(index);
+}
+
+void DcList::ChngSat(int row)
+{
+    if (row < 0 || row >= ListCount())
+        return;
+    moveTo(row);
+    emit SatirChange(row);
+}
+
+void DcList::MoveNext()
+{
+    if (m_otoIncrement && m_current == ListCount() - 1)
+        CreateNewCaption();
+    ChngSat(m_current + 1);
+}
+
+void DcList::MovePre()
+{
+    ChngSat(m_current - 1);
+}
+
+void DcList::ChngMode(int mode)
+{
+    if (mode == 2 && m_mode != 2)
+        openEditor(QString());
+    else if (mode != 2 && m_mode == 2)
+        closeEditor();
+    else
+        m_mode = mode;
+}
+
+void DcList::Clear()
+{
+    if (m_mode == 2)
+        closeEditor();
+    m_model->clearRows();
+    m_current = -1;
+}
+
+void DcList::Tazele()
+{
+    m_view->viewport()->update();
+    m_view->horizontalHeader()->viewport()->update();
+}
+
+void DcList::Flash()
+{
+    if (m_current >= 0)
+        m_model->setOverlay(m_current, m_buffer);
+}
+
+bool DcList::FindByName(const QString &name, const QString &text, int from)
+{
+    const int column = m_model->columnByName(name);
+    const QString needle = turkish.toUpper(text.trimmed());
+    for (int row = qMax(0, from); column >= 0 && row < ListCount(); ++row) {
+        if (turkish.toUpper(m_model->cell(row, column).trimmed()).contains(needle)) {
+            ChngSat(row);
+            return true;
+        }
+    }
+    Message::information(QStringLiteral("Aranan Kayıt Bulunamadı !"));
+    return false;
+}
+
+void DcList::headerClicked(int col)
+{
+    if (!m_sort)
+        return;
+    m_ascending = !m_ascending;
+    sorting(col);
+}
+
+void DcList::sorting(int col)
+{
+    if (col < 0 || col >= m_model->columnCount())
+        return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const DcColumn &column = m_model->columns()[size_t(col)];
+    QCollator collator(turkish);
+    std::vector<int> order(static_cast<size_t>(ListCount()));
+    std::iota(order.begin(), order.end(), 0);
+    const auto less = [&](int a, int b) {
+        const QString x = m_model->cell(a, col);
+        const QString y = m_model->cell(b, col);
+        if (column.isNumber())
+            return QLocale::c().toDouble(x) < QLocale::c().toDouble(y);
+        if (column.isDate())
+            return QDate::fromString(x, dateFormat) < QDate::fromString(y, dateFormat);
+        return collator.compare(x, y) < 0;
+    };
+    if (m_ascending)
+        std::stable_sort(order.begin(), order.end(), less);
+    else
+        std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return less(b, a); });
+    m_model->reorder(order);
+    QApplication::restoreOverrideCursor();
+}
+
+bool DcList::SendExel(const QString &title, const QString &text2, const QString &text3, const QString &text4)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+    const QString path = QDir(QStandardPaths::writableLocation(QStandardPaths::TempLocation))
+                             .filePath(QStringLiteral("liste-%1.xlsx").arg(stamp));
+    const bool done = WriteListSheet(path, {title, text2, text3, text4}, *m_model,
+                                     m_view->horizontalHeader()->font().pointSizeF())
+        && OpenSheet(path);
+    QApplication::restoreOverrideCursor();
+    if (!done)
+        Message::information(QStringLiteral("Excell Yüklü Değil veya Desteklenmeyen Versiyon"));
+    return done;
+}
+
+QString DcList::curtext(const QString &text, int col) const
+{
+    return col >= 0 && col < m_model->columnCount() ? m_model->columns()[size_t(col)].display(text) : text;
+}
+
+// Answers ---------------------------------------------------------------------------------
+
+void DcList::OkUpdateData(int row)
+{
+    if (row < 0)
+        row = editRow();
+    while (ListCount() <= row && CreateNewCaption() >= 0) {
+    }
+    QStringList values;
+    for (int c = 0; c < m_model->columnCount(); ++c) {
+        const DcColumn &column = m_model->columns()[size_t(c)];
+        const QString value = m_buffer.value(c);
+        if (column.type == u'N' || column.type == u'n')
+            values << numericText(value);
+        else if (column.kind() == u's')
+            values << value.left(1);
+        else
+            values << value;
+    }
+    m_model->clearOverlay();
+    m_model->setRow(row, values);
+}
+
+void DcList::OperasyonDeleteReturn(bool ok, int row)
+{
+    if (!ok)
+        return;
+    if (row < 0)
+        row = m_current;
+    m_model->removeRowAt(row);
+    if (m_current >= ListCount())
+        m_current = ListCount() - 1;
+    moveTo(m_current);
+}
+
+void DcList::OnKosulReturn(bool ok, const QString &text)
+{
+    if (m_mode != 2 || !m_waitingForCheck)
+        return;
+    m_waitingForCheck = false;
+    if (ok)
+        acceptCell(text);
+    else
+        AlanDegisti(-101);
+}
+
+void DcList::LockedReturn(bool value)
+{
+    if (value && m_mode != 2) {
+        const QString typed = m_pendingTyped;
+        m_pendingTyped.clear();
+        m_locked = false;
+        openEditor(typed);
+        m_locked = true;
+    }
+}
+
+void DcList::AlanDegisti(int alan)
+{
+    const int columns = m_model->columnCount();
+    int target = alan > 100 ? m_column + 1 : alan < -100 ? m_column - 1 : alan;
+    const int step = alan < -100 ? -1 : 1;
+    while (target >= 0 && target < columns && m_model->columns()[size_t(target)].skipped())
+        target += step;
+    if (target >= columns) {
+        const int row = editRow();
+        closeEditor();
+        emit UpdateData(row);
+        return;
+    }
+    if (target < 0) {
+        closeEditor();
+        return;
+    }
+    m_column = target;
+    m_cellLock = false;
+    m_editor->setCellLock(false);
+    m_editor->open(m_model->columns()[size_t(target)], m_buffer.value(target));
+    placeEditor();
+    emit AlanChanged(target);
+}
+
+void DcList::SetTextBox(const QString &text)
+{
+    if (m_mode == 2)
+        m_editor->setText(text);
+}
+
+void DcList::setCellLock(bool on)
+{
+    m_cellLock = on;
+    m_editor->setCellLock(on);
+}
+
+// Editing -----------------------------------------------------------------------------------
+
+void DcList::openEditor(const QString &typed)
+{
+    if (m_model->columnCount() == 0)
+        return;
+    if (m_locked) {
+        m_pendingTyped = typed;
+        emit isLocked(editRow());
+        return;
+    }
+    if (m_current < 0 || m_current >= ListCount())
+        m_current = qMax(0, qMin(m_current, ListCount()));
+    m_cellLock = false;
+    m_editor->setCellLock(false);
+    m_buffer.clear();
+    for (int c = 0; c < m_model->columnCount(); ++c)
+        m_buffer << m_model->cell(m_current, c);
+    m_view->verticalScrollBar()->setEnabled(false);
+    m_view->horizontalScrollBar()->setEnabled(false);
+    m_mode = 2;
+    m_model->setOverlay(m_current, m_buffer);
+    emit ChangeEditMode(true);
+    m_column = 0;
+    AlanDegisti(0);
+    if (m_mode == 2 && !typed.isEmpty()) {
+        m_editor->clear();
+        if (!m_editor->typeCharacter(typed.front(), false))
+            m_editor->insert(typed);
+    }
+}
+
+void DcList::closeEditor()
+{
+    m_view->verticalScrollBar()->setEnabled(true);
+    m_view->horizontalScrollBar()->setEnabled(true);
+    m_editor->hide();
+    m_model->clearOverlay();
+    m_waitingForCheck = false;
+    m_mode = 1;
+    m_view->setFocus();
+    emit ChangeEditMode(false);
+    moveTo(m_current);
+}
+
+void DcList::placeEditor()
+{
+    QModelIndex index = m_model->index(m_current, m_column);
+    QRect cell = m_view->visualRect(index);
+    if (!index.isValid()) { // a row below the list: under the last one
+        const int height = m_view->verticalHeader()->defaultSectionSize();
+        const int top = ListCount() > 0 ? m_view->visualRect(m_model->index(ListCount() - 1, 0)).bottom() + 1 : 0;
+        cell = QRect(m_view->columnViewportPosition(m_column), top, m_view->columnWidth(m_column), height);
+    } else {
+        m_view->scrollTo(index);
+        cell = m_view->visualRect(index);
+    }
+    m_editor->setGeometry(cell);
+    m_editor->show();
+    m_editor->setFocus();
+}
+
+bool DcList::checkCell()
+{
+    const DcColumn &column = m_model->columns()[size_t(m_column)];
+    QString value = m_editor->text();
+    if (column.isDate()) {
+        if (value.size() < 10)
+            value += Today().toString(dateFormat).mid(value.size());
+        m_editor->setText(value);
+        const QDate date = QDate::fromString(value, dateFormat);
+        if (date.isValid() && (column.kosul == 4 || column.kosul == 5) && date.dayOfWeek() >= 6)
+            Message::information(QStringLiteral("Tatil gününe denk gelen tarih girdiniz.\n   ")
+                                 + turkish.toString(date, QStringLiteral("dd MMMM yyyy dddd")));
+        if (!date.isValid() && (column.kosul == 1 || column.kosul == 4)) {
+            Message::exclamation(QStringLiteral("Hatalı Tarih Girildi.\nDüzeltiniz."));
+            return false;
+        }
+        return true;
+    }
+    if (column.isNumber()) {
+        if (column.kosul == 2 && QLocale::c().toDouble(numericText(value)) == 0) {
+            Message::exclamation(QStringLiteral("Bir Sayi Girmelisiniz."));
+            return false;
+        }
+        return true;
+    }
+    if (column.kosul == 3 && value.isEmpty()) {
+        Message::exclamation(QStringLiteral("En Az Bir Harf Girmelisiniz."));
+        return false;
+    }
+    return true;
+}
+
+void DcList::acceptCell(const QString &value)
+{
+    setText(m_column, value);
+    m_model->setOverlay(m_current, m_buffer);
+    AlanDegisti(101);
+}
+
+// Keys ----------------------------------------------------------------------------------------
+
+bool DcList::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        auto *key = static_cast<QKeyEvent *>(event);
+        if (watched == m_editor)
+            return editorKey(key);
+        if (watched == m_view)
+            return listKey(key);
+    } else if (watched == m_view && event->type() == QEvent::FocusIn && m_mode == 0) {
+        m_mode = 1;
+    } else if (watched == m_view && event->type() == QEvent::FocusOut && m_mode == 1
+               && QApplication::focusWidget() != m_editor) {
+        m_mode = 0;
+    } else if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress && m_mode != 2) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        const QModelIndex index = m_view->indexAt(mouse->position().toPoint());
+        if (index.isValid()) {
+            emit MouseDown(int(mouse->button()), index.column(), index.row());
+            ChngSat(index.row());
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void DcList::UseKeys(int key, Qt::KeyboardModifiers modifiers)
+{
+    QKeyEvent event(QEvent::KeyPress, key, modifiers);
+    listKey(&event);
+}
+
+int DcList::pageRows() const
+{
+    return qMax(1, m_view->viewport()->height() / qMax(1, m_view->verticalHeader()->defaultSectionSize()));
+}
+
+bool DcList::listKey(QKeyEvent *event)
+{
+    const int key = event->key();
+    const Qt::KeyboardModifiers held = event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    const bool control = held == Qt::ControlModifier;
+    QScrollBar *across = m_view->horizontalScrollBar();
+    switch (key) {
+    case Qt::Key_E:
+        if (control) {
+            SendExel(QString(), QString(), QString(), QString());
+            return true;
+        }
+        break;
+    case Qt::Key_Up:
+        ChngSat(qMax(0, m_current - 1));
+        return true;
+    case Qt::Key_Down:
+        ChngSat(m_current + 1 < ListCount() ? m_current + 1 : m_current);
+        return true;
+    case Qt::Key_PageUp:
+        ChngSat(qMax(0, m_current - pageRows()));
+        return true;
+    case Qt::Key_PageDown:
+        ChngSat(qMin(ListCount() - 1, m_current + pageRows()));
+        return true;
+    case Qt::Key_Home:
+        across->setValue(across->minimum());
+        if (control)
+            ChngSat(0);
+        return true;
+    case Qt::Key_End:
+        across->setValue(across->maximum());
+        if (control)
+            ChngSat(ListCount() - 1);
+        return true;
+    case Qt::Key_Left:
+        across->triggerAction(control ? QAbstractSlider::SliderPageStepSub : QAbstractSlider::SliderSingleStepSub);
+        return true;
+    case Qt::Key_Right:
+        across->triggerAction(control ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderSingleStepAdd);
+        return true;
+    case Qt::Key_Insert:
+        m_model->insertEmptyRow(qMax(0, m_current));
+        ChngSat(qMax(0, m_current));
+        return true;
+    case Qt::Key_Delete:
+        if (m_current >= 0)
+            emit OperasyonDelete(m_current);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (m_editable && held == Qt::NoModifier) {
+            openEditor(QString());
+            return true;
+        }
+        break;
+    default: {
+        const QString text = event->text();
+        if (m_editable && held == Qt::NoModifier && !text.isEmpty() && text.front().isPrint()) {
+            openEditor(text);
+            return true;
+        }
+        break;
+    }
+    }
+    emit KeyDown(key, int(event->modifiers()), m_current);
+    return true;
+}
+
+bool DcList::editorKey(QKeyEvent *event)
+{
+    const int key = event->key();
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Down: {
+        if (m_waitingForCheck)
+            return true;
+        if (!checkCell()) {
+            m_editor->setCursorPosition(0);
+            return true;
+        }
+        const DcColumn &column = m_model->columns()[size_t(m_column)];
+        if (column.kosul == 6) {
+            m_waitingForCheck = true;
+            emit OnKosulVar(m_column, column.name, m_editor->text());
+            return true;
+        }
+        acceptCell(m_editor->text());
+        return true;
+    }
+    case Qt::Key_Up:
+    case Qt::Key_Escape:
+        AlanDegisti(-101);
+        return true;
+    case Qt::Key_Delete:
+        if (!m_cellLock && m_model->columns()[size_t(m_column)].isNumber()) {
+            m_editor->clear();
+            setText(m_column, QString());
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    const QString text = event->text();
+    const bool character = key == Qt::Key_Backspace || (!text.isEmpty() && text.front().isPrint());
+    if (!character && !m_cellLock)
+        emit KeyDown(key, int(event->modifiers()), editRow());
+    return m_cellLock && !character;
+}
+
+// Looks ----------------------------------------------------------------------------------------
+
+void DcList::setZebra(bool on)
+{
+    m_zebra = on;
+    m_model->setZebra(on);
+}
+
+bool DcList::BaslikVar() const
+{
+    return !m_view->horizontalHeader()->isHidden();
+}
+
+void DcList::setBaslikVar(bool on)
+{
+    m_view->horizontalHeader()->setVisible(on);
+}
+
+void DcList::setScroll(int bars)
+{
+    m_view->setVerticalScrollBarPolicy(bars & 1 ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    m_view->setHorizontalScrollBarPolicy(bars & 2 ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+}
+
+void DcList::setBgColor(const QColor &colour)
+{
+    m_background = colour;
+    applyColors();
+}
+
+void DcList::setPassiveTextColor(const QColor &text, const QColor &back)
+{
+    m_model->setNormalColors(text, back);
+}
+
+void DcList::setZebraTextColor(const QColor &text, const QColor &back)
+{
+    m_model->setZebraColors(text, back);
+}
+
+void DcList::setActiveTextColor(const QColor &text, const QColor &back)
+{
+    m_activeText = text;
+    m_activeBack = back;
+    applyColors();
+}
+
+void DcList::setBaslikTextColor(const QColor &text, const QColor &back)
+{
+    m_headerText = text;
+    m_headerBack = back;
+    applyColors();
+}
+
+void DcList::applyColors()
+{
+    QPalette colours = m_view->palette();
+    colours.setColor(QPalette::Base, m_background);
+    colours.setColor(QPalette::Highlight, m_activeBack);
+    colours.setColor(QPalette::HighlightedText, m_activeText);
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, m_activeBack);
+    colours.setColor(QPalette::Inactive, QPalette::HighlightedText, m_activeText);
+    m_view->setPalette(colours);
+    m_view->horizontalHeader()->setStyleSheet(QStringLiteral("QHeaderView::section { color: %1; background: %2; "
+                                                             "border: 1px solid #9ab89a; padding: 2px; }")
+                                                  .arg(m_headerText.name(), m_headerBack.name()));
+}

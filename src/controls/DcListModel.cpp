@@ -1,0 +1,201 @@
+#include "controls/DcListModel.h"
+
+DcListModel::DcListModel(QObject *parent)
+    : QAbstractTableModel(parent)
+{
+}
+
+int DcListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+int DcListModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_columns.size());
+}
+
+QVariant DcListModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return QVariant();
+    const int row = index.row();
+    const int column = index.column();
+    const QString value = row == m_overlayRow ? m_overlay.value(column) : cell(row, column);
+    switch (role) {
+    case Qt::DisplayRole:
+        return m_columns[size_t(column)].display(value);
+    case Qt::EditRole:
+        return value;
+    case Qt::TextAlignmentRole:
+        return int(m_columns[size_t(column)].alignment());
+    case Qt::ForegroundRole:
+        return m_zebra && row % 2 == 1 ? m_zebraText : m_text;
+    case Qt::BackgroundRole:
+        return m_zebra && row % 2 == 1 ? m_zebraBack : m_back;
+    default:
+        return QVariant();
+    }
+}
+
+QVariant DcListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Horizontal && section >= 0 && section < columnCount()) {
+        if (role == Qt::DisplayRole)
+            return m_columns[size_t(section)].caption;
+        if (role == Qt::TextAlignmentRole)
+            return int(Qt::AlignCenter);
+    }
+    if (orientation == Qt::Vertical && role == Qt::DisplayRole)
+        return section + 1;
+    return QVariant();
+}
+
+void DcListModel::addColumn(const DcColumn &column)
+{
+    const int at = columnCount();
+    beginInsertColumns(QModelIndex(), at, at);
+    m_columns.push_back(column);
+    for (QStringList &row : m_rows)
+        row.append(QString());
+    endInsertColumns();
+}
+
+void DcListModel::removeColumns()
+{
+    beginResetModel();
+    m_columns.clear();
+    for (QStringList &row : m_rows)
+        row.clear();
+    endResetModel();
+}
+
+int DcListModel::columnByName(const QString &name) const
+{
+    const QString upper = name.toUpper();
+    for (size_t c = 0; c < m_columns.size(); ++c)
+        if (m_columns[c].name == upper)
+            return int(c);
+    return -1;
+}
+
+int DcListModel::appendRow()
+{
+    if (rowCount() >= MaxRows)
+        return -1;
+    const int row = rowCount();
+    beginInsertRows(QModelIndex(), row, row);
+    QStringList empty;
+    empty.reserve(columnCount());
+    for (int c = 0; c < columnCount(); ++c)
+        empty.append(QString());
+    m_rows.push_back(std::move(empty));
+    endInsertRows();
+    return row;
+}
+
+void DcListModel::insertEmptyRow(int row)
+{
+    if (rowCount() >= MaxRows || row < 0 || row > rowCount())
+        return;
+    beginInsertRows(QModelIndex(), row, row);
+    QStringList empty;
+    for (int c = 0; c < columnCount(); ++c)
+        empty.append(QString());
+    m_rows.insert(m_rows.begin() + row, empty);
+    endInsertRows();
+}
+
+void DcListModel::removeRowAt(int row)
+{
+    if (row < 0 || row >= rowCount())
+        return;
+    beginRemoveRows(QModelIndex(), row, row);
+    m_rows.erase(m_rows.begin() + row);
+    endRemoveRows();
+}
+
+void DcListModel::clearRows()
+{
+    beginResetModel();
+    m_rows.clear();
+    m_overlayRow = -1;
+    endResetModel();
+}
+
+QString DcListModel::cell(int row, int column) const
+{
+    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount())
+        return QString();
+    return m_rows[size_t(row)].value(column);
+}
+
+void DcListModel::setCell(int row, int column, const QString &value)
+{
+    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount())
+        return;
+    m_rows[size_t(row)][column] = value;
+    emit dataChanged(index(row, column), index(row, column));
+}
+
+void DcListModel::setRow(int row, const QStringList &values)
+{
+    if (row < 0 || row >= rowCount())
+        return;
+    for (int c = 0; c < columnCount(); ++c)
+        m_rows[size_t(row)][c] = values.value(c);
+    emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+void DcListModel::reorder(const std::vector<int> &order)
+{
+    emit layoutAboutToBeChanged();
+    std::vector<QStringList> sorted;
+    sorted.reserve(order.size());
+    for (int row : order)
+        sorted.push_back(std::move(m_rows[size_t(row)]));
+    m_rows = std::move(sorted);
+    emit layoutChanged();
+}
+
+void DcListModel::setOverlay(int row, const QStringList &values)
+{
+    m_overlayRow = row;
+    m_overlay = values;
+    if (row >= 0 && row < rowCount())
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+void DcListModel::clearOverlay()
+{
+    const int row = m_overlayRow;
+    m_overlayRow = -1;
+    if (row >= 0 && row < rowCount())
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+void DcListModel::allChanged()
+{
+    if (rowCount() > 0 && columnCount() > 0)
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+void DcListModel::setZebra(bool on)
+{
+    m_zebra = on;
+    allChanged();
+}
+
+void DcListModel::setNormalColors(const QColor &text, const QColor &back)
+{
+    m_text = text;
+    m_back = back;
+    allChanged();
+}
+
+void DcListModel::setZebraColors(const QColor &text, const QColor &back)
+{
+    m_zebraText = text;
+    m_zebraBack = back;
+    allChanged();
+}
