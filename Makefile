@@ -40,6 +40,7 @@ test: test-plain test-asan
 
 bench: build
 	$(BUILD)/bench/bench_datastore
+	$(BUILD)/bench/bench_dclist
 
 format:
 	find src tests bench -name '*.cpp' -o -name '*.h' | xargs clang-format -i

@@ -7,7 +7,7 @@ packages=(
   qt6-base-dev qt6-base-dev-tools libqt6sql6
   libsqlite3-dev libcups2-dev libxlsxwriter-dev
   xvfb xauth xdg-utils fonts-dejavu-core
-  cups cups-client cups-bsd poppler-utils
+  cups cups-client cups-bsd poppler-utils python3
 )
 
 missing=()
