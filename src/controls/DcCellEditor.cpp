@@ -17,24 +17,27 @@ DcCellEditor::DcCellEditor(QWidget *parent)
     : QLineEdit(parent)
 {
     setFrame(false);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, Qt::white);
+    colours.setColor(QPalette::Text, Qt::black);
+    setPalette(colours);
     hide();
 }
 
 void DcCellEditor::open(const DcColumn &column, const QString &value)
 {
     m_column = column;
+    // The length first: the previous cell's limit must not cut the new value.
+    setMaxLength(column.isNumber() || column.maxValue < 1 ? 32767 : column.isDate() ? 10 : int(column.maxValue));
     setText(column.isDate() ? column.display(value) : value);
     if (column.isNumber()) {
         setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        setMaxLength(32767);
         setCursorPosition(0);
     } else if (column.isDate()) {
         setAlignment(Qt::AlignCenter);
-        setMaxLength(10);
         selectAll();
     } else {
         setAlignment(column.kind() == u's' ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-        setMaxLength(column.maxValue >= 1 ? int(column.maxValue) : 32767);
         if (column.kind() == u's')
             selectAll();
         else

@@ -53,6 +53,7 @@ private slots:
     void refusedCellsKeepTheEditor();
     void weekendDateIsNoticedAndAccepted();
     void numberEntryMayTakeThePointAgain();
+    void longValueSurvivesAShortCell();
     void upAndEscapeGoBack();
     void checkedColumnWaitsForTheScreen();
     void deleteWaitsForTheAnswer();
@@ -230,6 +231,15 @@ void TestDcList::numberEntryMayTakeThePointAgain()
     QCOMPARE(m_list->editor()->text(), QStringLiteral("12."));
     typeInEditor(QStringLiteral("x+"));
     QCOMPARE(m_list->editor()->text(), QStringLiteral("12.000"));
+}
+
+void TestDcList::longValueSurvivesAShortCell()
+{
+    fillRows({{"01.01.2026", "Danışmanlık ücreti", "100", "B"}});
+    m_list->ChngSat(0);
+    QTest::keyClick(view(), Qt::Key_Return); // opens the date cell, 10 characters at most
+    enter();
+    QCOMPARE(m_list->editor()->text(), QStringLiteral("Danışmanlık ücreti"));
 }
 
 void TestDcList::upAndEscapeGoBack()
