@@ -12,9 +12,9 @@ struct DcColumn
     QString caption;
     int width = 0;
     double maxValue = 0; // numbers: the largest value; texts and dates: the most characters
-    int kosul = 0;       // condition code 0-6
-    int onda = 0;        // decimals of a number column
-    int grup = 3;        // digit groups of a number column
+    int kosul = 0; // condition code 0-6
+    int onda = 0; // decimals of a number column
+    int grup = 3; // digit groups of a number column
 
     QChar kind() const { return type.toLower(); }
     bool isNumber() const { return kind() == u'n' || kind() == u'b'; }

@@ -52,14 +52,14 @@ QString numericText(const QString &text)
 
 QFont headerFont()
 {
-    return QuickFont({QStringLiteral("gridbaslikfontname"), QStringLiteral("gridbaslikfontsize"),
-                      QStringLiteral("gridbaslikfontbold"), QStringLiteral("tahoma"), 10, QStringLiteral("Bold")});
+    return QuickFont({ QStringLiteral("gridbaslikfontname"), QStringLiteral("gridbaslikfontsize"),
+        QStringLiteral("gridbaslikfontbold"), QStringLiteral("tahoma"), 10, QStringLiteral("Bold") });
 }
 
 QFont cellFont()
 {
-    return QuickFont({QStringLiteral("griddetayfontname"), QStringLiteral("griddetayfontsize"),
-                      QStringLiteral("griddetayfontbold"), QStringLiteral("courier"), 10, QStringLiteral("Bold")});
+    return QuickFont({ QStringLiteral("griddetayfontname"), QStringLiteral("griddetayfontsize"),
+        QStringLiteral("griddetayfontbold"), QStringLiteral("courier"), 10, QStringLiteral("Bold") });
 }
 
 QFont namedFont(const QString &name, int size, bool bold)
@@ -116,7 +116,7 @@ DcList::~DcList() = default;
 // Columns --------------------------------------------------------------------------------
 
 QVariant DcList::Add(const QString &type, const QString &name, const QString &caption, int width, double maxValue,
-                     int kosul, int ondaHane, int binlikAyrac)
+    int kosul, int ondaHane, int binlikAyrac)
 {
     if (type.isEmpty() || !IsColumnType(type.front()))
         return QVariant();
@@ -371,8 +371,8 @@ bool DcList::SendExel(const QString &title, const QString &text2, const QString 
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
     const QString path = QDir(QStandardPaths::writableLocation(QStandardPaths::TempLocation))
                              .filePath(QStringLiteral("liste-%1.xlsx").arg(stamp));
-    const bool done = WriteListSheet(path, {title, text2, text3, text4}, *m_model,
-                                     m_view->horizontalHeader()->font().pointSizeF())
+    const bool done = WriteListSheet(path, { title, text2, text3, text4 }, *m_model,
+                          m_view->horizontalHeader()->font().pointSizeF())
         && OpenSheet(path);
     QApplication::restoreOverrideCursor();
     if (!done)
@@ -391,8 +391,7 @@ void DcList::OkUpdateData(int row)
 {
     if (row < 0)
         row = editRow();
-    while (ListCount() <= row && CreateNewCaption() >= 0) {
-    }
+    while (ListCount() <= row && CreateNewCaption() >= 0) { }
     QStringList values;
     for (int c = 0; c < m_model->columnCount(); ++c) {
         const DcColumn &column = m_model->columns()[size_t(c)];
@@ -552,7 +551,7 @@ bool DcList::checkCell()
         const QDate date = QDate::fromString(value, dateFormat);
         if (date.isValid() && (column.kosul == 4 || column.kosul == 5) && date.dayOfWeek() >= 6)
             Message::information(QStringLiteral("Tatil gününe denk gelen tarih girdiniz.\n   ")
-                                 + turkish.toString(date, QStringLiteral("dd MMMM yyyy dddd")));
+                + turkish.toString(date, QStringLiteral("dd MMMM yyyy dddd")));
         if (!date.isValid() && (column.kosul == 1 || column.kosul == 4)) {
             Message::exclamation(QStringLiteral("Hatalı Tarih Girildi.\nDüzeltiniz."));
             return false;
@@ -593,7 +592,7 @@ bool DcList::eventFilter(QObject *watched, QEvent *event)
     } else if (watched == m_view && event->type() == QEvent::FocusIn && m_mode == 0) {
         m_mode = 1;
     } else if (watched == m_view && event->type() == QEvent::FocusOut && m_mode == 1
-               && QApplication::focusWidget() != m_editor) {
+        && QApplication::focusWidget() != m_editor) {
         m_mode = 0;
     } else if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress && m_mode != 2) {
         const auto *mouse = static_cast<QMouseEvent *>(event);

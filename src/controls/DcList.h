@@ -23,7 +23,7 @@ public:
 
     // Columns
     QVariant Add(const QString &type, const QString &name, const QString &caption, int width, double maxValue,
-                 int kosul = 0, int ondaHane = 0, int binlikAyrac = 3);
+        int kosul = 0, int ondaHane = 0, int binlikAyrac = 3);
     void Reset();
     QString Baslik(int col) const;
     void setBaslik(int col, const QString &caption);

@@ -30,7 +30,7 @@ void writeText(lxw_worksheet *sheet, int row, int column, const QString &text, l
 
 void writeDate(lxw_worksheet *sheet, int row, int column, QDate date, lxw_format *format)
 {
-    lxw_datetime value = {date.year(), date.month(), date.day(), 0, 0, 0};
+    lxw_datetime value = { date.year(), date.month(), date.day(), 0, 0, 0 };
     worksheet_write_datetime(sheet, lxw_row_t(row), lxw_col_t(column), &value, format);
 }
 

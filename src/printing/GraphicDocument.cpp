@@ -57,13 +57,13 @@ void GraphicDocument::endPage()
 void GraphicDocument::drawText(const QRect &field, Qt::Alignment alignment, const QFont &font, const QString &text)
 {
     if (m_pageOpen)
-        m_pages.back().push_back(Item{field, QLine(), alignment, font, text, false});
+        m_pages.back().push_back(Item { field, QLine(), alignment, font, text, false });
 }
 
 void GraphicDocument::drawRule(const QLine &rule)
 {
     if (m_pageOpen)
-        m_pages.back().push_back(Item{QRect(), rule, Qt::Alignment(), QFont(), QString(), true});
+        m_pages.back().push_back(Item { QRect(), rule, Qt::Alignment(), QFont(), QString(), true });
 }
 
 void GraphicDocument::play(QPrinter *printer) const
@@ -93,8 +93,8 @@ bool GraphicDocument::finish()
     if (m_target == PrintSettings::GraphicTarget::Preview) {
         QPrintPreviewDialog preview(m_printer.get());
         preview.setWindowTitle(QStringLiteral(" Önizleme "));
-        QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
-                         [this](QPrinter *printer) { play(printer); });
+        QObject::connect(
+            &preview, &QPrintPreviewDialog::paintRequested, &preview, [this](QPrinter *printer) { play(printer); });
         preview.exec();
         return true;
     }

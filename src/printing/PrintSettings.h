@@ -10,12 +10,12 @@ struct PrintSettings
     enum class GraphicTarget { Printer, PdfFile, Preview };
 
     QString title;
-    bool titleHeading = false;   // "Başlık Yazılsın"
-    bool dateHeading = false;    // "Tarih Yazılsın"
-    bool pageNoHeading = false;  // "Sayfa No Yazılsın"
+    bool titleHeading = false; // "Başlık Yazılsın"
+    bool dateHeading = false; // "Tarih Yazılsın"
+    bool pageNoHeading = false; // "Sayfa No Yazılsın"
     bool companyHeading = false; // "Şirket Adı Yazılsın"
-    int orientation = 1;         // 1 portrait, 2 landscape
-    int lines = 66;              // lines per page
+    int orientation = 1; // 1 portrait, 2 landscape
+    int lines = 66; // lines per page
     int copies = 1;
     bool confirmed = false;
     bool dotMatrix = false; // raw text output rather than graphic

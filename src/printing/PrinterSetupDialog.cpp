@@ -76,15 +76,16 @@ PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
     m_lines->setObjectName(QStringLiteral("Combo1"));
     m_copies->setObjectName(QStringLiteral("Combo2"));
     m_title->setObjectName(QStringLiteral("Text1"));
-    const char16_t *headings[] = {u"Başlık Yazılsın", u"Tarih Yazılsın", u"Sayfa No Yazılsın", u"Şirket Adı Yazılsın"};
+    const char16_t *headings[]
+        = { u"Başlık Yazılsın", u"Tarih Yazılsın", u"Sayfa No Yazılsın", u"Şirket Adı Yazılsın" };
     for (int i = 0; i < 4; ++i) {
         m_headings[i] = new QCheckBox(QString::fromUtf16(headings[i]), this);
         m_headings[i]->setObjectName(QStringLiteral("Check1_%1").arg(i));
     }
-    m_lines->addItems({QStringLiteral("22"), QStringLiteral("33"), QStringLiteral("44"), QStringLiteral("66"),
-                       QStringLiteral("70")});
-    m_copies->addItems({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"),
-                        QStringLiteral("5")});
+    m_lines->addItems({ QStringLiteral("22"), QStringLiteral("33"), QStringLiteral("44"), QStringLiteral("66"),
+        QStringLiteral("70") });
+    m_copies->addItems(
+        { QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("5") });
     m_lines->setCurrentText(QStringLiteral("66"));
 
     auto *kinds = new QButtonGroup(this);
@@ -172,7 +173,7 @@ void PrinterSetupDialog::showRecord()
     const PrintSettings &record = printSettings();
     m_printer->setText(printer);
     m_title->setText(record.title);
-    const bool headings[] = {record.titleHeading, record.dateHeading, record.pageNoHeading, record.companyHeading};
+    const bool headings[] = { record.titleHeading, record.dateHeading, record.pageNoHeading, record.companyHeading };
     for (int i = 0; i < 4; ++i)
         m_headings[i]->setChecked(headings[i]);
     const int lines = m_lines->findText(QString::number(record.lines));
@@ -180,9 +181,9 @@ void PrinterSetupDialog::showRecord()
         m_lines->setCurrentIndex(lines);
     m_copies->setCurrentIndex(qBound(0, record.copies - 1, m_copies->count() - 1));
     (record.orientation != 1 ? m_landscape : m_portrait)->setChecked(true);
-    QRadioButton *kind = record.dotMatrix                                     ? m_dotMatrix
+    QRadioButton *kind = record.dotMatrix                        ? m_dotMatrix
         : record.target == PrintSettings::GraphicTarget::PdfFile ? m_pdf
-                                                                  : m_graphic;
+                                                                 : m_graphic;
     kind->setChecked(true);
     m_pdfFile->setText(record.pdfFile.isEmpty() ? defaultPdfFile(record.title) : record.pdfFile);
     m_ok->setEnabled(true);
@@ -225,9 +226,9 @@ void PrinterSetupDialog::confirm(bool preview)
     record.copies = m_copies->currentText().toInt();
     record.orientation = m_portrait->isChecked() ? 1 : 2;
     record.lines = m_lines->currentText().toInt();
-    record.target = preview         ? PrintSettings::GraphicTarget::Preview
-        : m_pdf->isChecked()         ? PrintSettings::GraphicTarget::PdfFile
-                                     : PrintSettings::GraphicTarget::Printer;
+    record.target = preview  ? PrintSettings::GraphicTarget::Preview
+        : m_pdf->isChecked() ? PrintSettings::GraphicTarget::PdfFile
+                             : PrintSettings::GraphicTarget::Printer;
     record.pdfFile = m_pdfFile->text();
     accept();
 }

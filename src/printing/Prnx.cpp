@@ -98,8 +98,8 @@ void Prnx::SayfaBitti(bool PageFeed)
     m_lines = 0;
 }
 
-void Prnx::Lprint(const QString &text, int en, bool LineFeed, int algn, bool koyu, bool italik, bool altcizgi,
-                  bool Ustcizgi)
+void Prnx::Lprint(
+    const QString &text, int en, bool LineFeed, int algn, bool koyu, bool italik, bool altcizgi, bool Ustcizgi)
 {
     if (m_kind == Graphic)
         drawField(text, en, algn, koyu, italik, altcizgi, Ustcizgi);

@@ -35,7 +35,7 @@ public:
     int YeniSayfa();
     void SayfaBitti(bool PageFeed = false);
     void Lprint(const QString &text, int en = 0, bool LineFeed = false, int algn = 0, bool koyu = false,
-                bool italik = false, bool altcizgi = false, bool Ustcizgi = false);
+        bool italik = false, bool altcizgi = false, bool Ustcizgi = false);
     void LinePrint(int en = 0, bool koyu = false, bool LineFeed = false);
     void OpenSurekliBasim() { m_continuous = true; }
     void CloseSurekliBaski();

@@ -8,19 +8,32 @@ namespace {
 char16_t cp857(QChar c)
 {
     switch (c.unicode()) {
-    case u'Ç': return 128;
-    case u'Ğ': return 166;
-    case u'Ö': return 153;
-    case u'Ü': return 154;
-    case u'İ': return 152;
-    case u'Ş': return 158;
-    case u'ç': return 135;
-    case u'ğ': return 167;
-    case u'ö': return 148;
-    case u'ü': return 129;
-    case u'ı': return 141;
-    case u'ş': return 159;
-    default: return 0;
+    case u'Ç':
+        return 128;
+    case u'Ğ':
+        return 166;
+    case u'Ö':
+        return 153;
+    case u'Ü':
+        return 154;
+    case u'İ':
+        return 152;
+    case u'Ş':
+        return 158;
+    case u'ç':
+        return 135;
+    case u'ğ':
+        return 167;
+    case u'ö':
+        return 148;
+    case u'ü':
+        return 129;
+    case u'ı':
+        return 141;
+    case u'ş':
+        return 159;
+    default:
+        return 0;
     }
 }
 
@@ -63,7 +76,11 @@ QByteArray RawField(const QString &text, bool bold, bool italic, bool underline)
     if (bold)
         bytes = "\x1bG" + bytes + "\x1bH";
     if (italic)
-        bytes = "\x1b" "4" + bytes + "\x1b" "5";
+        bytes = "\x1b"
+                "4"
+            + bytes
+            + "\x1b"
+              "5";
     if (underline)
         bytes = QByteArray("\x1b-\x01", 3) + bytes + QByteArray("\x1b-\x00", 3);
     return bytes;

@@ -62,6 +62,9 @@ private slots:
     void headerClicksSortBothWaysKeepingTies();
     void displayByKind_data();
     void displayByKind();
+    void lockedListAsksTheScreen();
+    void moveNextAppendsWithAutomaticNumbering();
+    void exportWithoutASpreadsheetApplication();
     void exportOfAnEmptyList();
 
 private:
@@ -135,7 +138,7 @@ void TestDcList::emptyListAndNames()
 
 void TestDcList::columnsSurviveClear()
 {
-    fillRows({{"01.01.2026", "Kira", "100"}, {"02.01.2026", "Elektrik", "50"}});
+    fillRows({ { "01.01.2026", "Kira", "100" }, { "02.01.2026", "Elektrik", "50" } });
     m_list->ChngSat(1);
     m_list->Clear();
     QCOMPARE(m_list->ListCount(), 0);
@@ -187,9 +190,12 @@ void TestDcList::refusedCellsKeepTheEditor_data()
     QTest::addColumn<int>("column");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("message");
-    QTest::newRow("no 31 February") << 0 << "31022010" << "Hatalı Tarih Girildi.\nDüzeltiniz.";
-    QTest::newRow("empty text") << 1 << "" << "En Az Bir Harf Girmelisiniz.";
-    QTest::newRow("zero amount") << 2 << "0" << "Bir Sayi Girmelisiniz.";
+    QTest::newRow("no 31 February") << 0 << "31022010"
+                                    << "Hatalı Tarih Girildi.\nDüzeltiniz.";
+    QTest::newRow("empty text") << 1 << ""
+                                << "En Az Bir Harf Girmelisiniz.";
+    QTest::newRow("zero amount") << 2 << "0"
+                                 << "Bir Sayi Girmelisiniz.";
 }
 
 void TestDcList::refusedCellsKeepTheEditor()
@@ -197,14 +203,14 @@ void TestDcList::refusedCellsKeepTheEditor()
     QFETCH(int, column);
     QFETCH(QString, typed);
     QFETCH(QString, message);
-    fillRows({{"01.01.2026", "Kira", "100", "B"}});
+    fillRows({ { "01.01.2026", "Kira", "100", "B" } });
     m_list->ChngSat(0);
     QTest::keyClick(view(), Qt::Key_Return);
     m_list->AlanDegisti(column);
     m_list->editor()->clear();
     typeInEditor(typed);
     enter();
-    QCOMPARE(m_messages->texts(), QStringList{message});
+    QCOMPARE(m_messages->texts(), QStringList { message });
     QCOMPARE(m_messages->entries().first().kind, Message::Kind::Exclamation);
     QCOMPARE(m_list->CurrentMode(), 2);
     QCOMPARE(m_list->CurrentCol(), column);
@@ -218,7 +224,7 @@ void TestDcList::weekendDateIsNoticedAndAccepted()
     typeInEditor(QStringLiteral("07112026"));
     enter();
     QCOMPARE(m_messages->texts(),
-             QStringList{QStringLiteral("Tatil gününe denk gelen tarih girdiniz.\n   07 Kasım 2026 Cumartesi")});
+        QStringList { QStringLiteral("Tatil gününe denk gelen tarih girdiniz.\n   07 Kasım 2026 Cumartesi") });
     QCOMPARE(m_messages->entries().first().kind, Message::Kind::Information);
     QCOMPARE(m_list->CurrentCol(), 1);
 }
@@ -235,7 +241,7 @@ void TestDcList::numberEntryMayTakeThePointAgain()
 
 void TestDcList::longValueSurvivesAShortCell()
 {
-    fillRows({{"01.01.2026", "Danışmanlık ücreti", "100", "B"}});
+    fillRows({ { "01.01.2026", "Danışmanlık ücreti", "100", "B" } });
     m_list->ChngSat(0);
     QTest::keyClick(view(), Qt::Key_Return); // opens the date cell, 10 characters at most
     enter();
@@ -275,10 +281,10 @@ void TestDcList::checkedColumnWaitsForTheScreen()
 
 void TestDcList::deleteWaitsForTheAnswer()
 {
-    fillRows({{"01.01.2026", "Kira"}, {"02.01.2026", "Su"}, {"03.01.2026", "Gaz"}});
+    fillRows({ { "01.01.2026", "Kira" }, { "02.01.2026", "Su" }, { "03.01.2026", "Gaz" } });
     m_list->ChngSat(1);
     QTest::keyClick(view(), Qt::Key_Delete);
-    QCOMPARE(m_screen->deleteRequests, QList<int>{1});
+    QCOMPARE(m_screen->deleteRequests, QList<int> { 1 });
     QCOMPARE(m_list->ListCount(), 3);
     m_list->OperasyonDeleteReturn(false);
     QCOMPARE(m_list->ListCount(), 3);
@@ -289,29 +295,29 @@ void TestDcList::deleteWaitsForTheAnswer()
 
 void TestDcList::listThatCannotBeEditedOnlyReportsKeys()
 {
-    fillRows({{"01.01.2026", "Kira"}});
+    fillRows({ { "01.01.2026", "Kira" } });
     m_list->ChngSat(0);
     m_list->setEditable(false);
     QTest::keyClick(view(), Qt::Key_Return);
     QTest::keyClick(view(), 'k');
     QTest::keyClick(view(), Qt::Key_Escape);
     QCOMPARE(m_list->CurrentMode(), 1);
-    QCOMPARE(m_screen->keys, QList<int>({Qt::Key_Return, Qt::Key_K, Qt::Key_Escape}));
+    QCOMPARE(m_screen->keys, QList<int>({ Qt::Key_Return, Qt::Key_K, Qt::Key_Escape }));
 }
 
 void TestDcList::searchIgnoresCaseAndBlanks()
 {
-    fillRows({{"", "Kira"}, {"", "  ŞİŞLİ OFİS  "}, {"", "Su"}});
+    fillRows({ { "", "Kira" }, { "", "  ŞİŞLİ OFİS  " }, { "", "Su" } });
     QVERIFY(m_list->FindByName(QStringLiteral("Ack"), QStringLiteral("  şişli ")));
     QCOMPARE(m_list->CurSat(), 1);
     QVERIFY(!m_list->FindByName(QStringLiteral("ACK"), QStringLiteral("doğalgaz")));
-    QCOMPARE(m_messages->texts(), QStringList{QStringLiteral("Aranan Kayıt Bulunamadı !")});
+    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Aranan Kayıt Bulunamadı !") });
     QCOMPARE(m_list->CurSat(), 1);
 }
 
 void TestDcList::headerClicksSortBothWaysKeepingTies()
 {
-    fillRows({{"", "b1", "20"}, {"", "a1", "100"}, {"", "b2", "20"}, {"", "a2", "100"}, {"", "c", "3"}});
+    fillRows({ { "", "b1", "20" }, { "", "a1", "100" }, { "", "b2", "20" }, { "", "a2", "100" }, { "", "c", "3" } });
     m_list->setSort(true);
     const auto column = [this] {
         QStringList texts;
@@ -320,15 +326,15 @@ void TestDcList::headerClicksSortBothWaysKeepingTies()
         return texts;
     };
     QTest::mouseClick(view()->horizontalHeader()->viewport(), Qt::LeftButton, {},
-                      QPoint(view()->horizontalHeader()->sectionViewportPosition(2) + 5, 5));
+        QPoint(view()->horizontalHeader()->sectionViewportPosition(2) + 5, 5));
     const QStringList first = column();
     QTest::mouseClick(view()->horizontalHeader()->viewport(), Qt::LeftButton, {},
-                      QPoint(view()->horizontalHeader()->sectionViewportPosition(2) + 5, 5));
+        QPoint(view()->horizontalHeader()->sectionViewportPosition(2) + 5, 5));
     const QStringList second = column();
-    const QStringList ascending = {"c", "b1", "b2", "a1", "a2"};
-    const QStringList descending = {"a1", "a2", "b1", "b2", "c"};
+    const QStringList ascending = { "c", "b1", "b2", "a1", "a2" };
+    const QStringList descending = { "a1", "a2", "b1", "b2", "c" };
     QVERIFY2((first == ascending && second == descending) || (first == descending && second == ascending),
-             qPrintable(first.join(u',') + u';' + second.join(u',')));
+        qPrintable(first.join(u',') + u';' + second.join(u',')));
 }
 
 void TestDcList::displayByKind_data()
@@ -337,15 +343,33 @@ void TestDcList::displayByKind_data()
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<int>("alignment");
-    QTest::newRow("number") << "n" << "1234.5" << "1,234.50" << int(Qt::AlignRight | Qt::AlignVCenter);
-    QTest::newRow("zero number") << "N" << "0" << "" << int(Qt::AlignRight | Qt::AlignVCenter);
-    QTest::newRow("balance") << "b" << "-5" << "-5.00" << int(Qt::AlignRight | Qt::AlignVCenter);
-    QTest::newRow("code") << "s" << "B" << "B" << int(Qt::AlignCenter);
-    QTest::newRow("presence") << "v" << "True" << "Var" << int(Qt::AlignLeft | Qt::AlignVCenter);
-    QTest::newRow("absence") << "V" << "False" << "Yok" << int(Qt::AlignLeft | Qt::AlignVCenter);
-    QTest::newRow("yes") << "e" << "True" << "Evet" << int(Qt::AlignLeft | Qt::AlignVCenter);
-    QTest::newRow("no") << "E" << "False" << "Hayır" << int(Qt::AlignLeft | Qt::AlignVCenter);
-    QTest::newRow("other") << "e" << "Belki" << "Belki" << int(Qt::AlignLeft | Qt::AlignVCenter);
+    QTest::newRow("number") << "n"
+                            << "1234.5"
+                            << "1,234.50" << int(Qt::AlignRight | Qt::AlignVCenter);
+    QTest::newRow("zero number") << "N"
+                                 << "0"
+                                 << "" << int(Qt::AlignRight | Qt::AlignVCenter);
+    QTest::newRow("balance") << "b"
+                             << "-5"
+                             << "-5.00" << int(Qt::AlignRight | Qt::AlignVCenter);
+    QTest::newRow("code") << "s"
+                          << "B"
+                          << "B" << int(Qt::AlignCenter);
+    QTest::newRow("presence") << "v"
+                              << "True"
+                              << "Var" << int(Qt::AlignLeft | Qt::AlignVCenter);
+    QTest::newRow("absence") << "V"
+                             << "False"
+                             << "Yok" << int(Qt::AlignLeft | Qt::AlignVCenter);
+    QTest::newRow("yes") << "e"
+                         << "True"
+                         << "Evet" << int(Qt::AlignLeft | Qt::AlignVCenter);
+    QTest::newRow("no") << "E"
+                        << "False"
+                        << "Hayır" << int(Qt::AlignLeft | Qt::AlignVCenter);
+    QTest::newRow("other") << "e"
+                           << "Belki"
+                           << "Belki" << int(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void TestDcList::displayByKind()
@@ -363,6 +387,50 @@ void TestDcList::displayByKind()
     QCOMPARE(m_list->curtext(value, 0), shown);
 }
 
+void TestDcList::lockedListAsksTheScreen()
+{
+    fillRows({ { "01.01.2026", "Kira", "100", "B" } });
+    m_list->ChngSat(0);
+    m_list->setLocked(true);
+    QList<int> asked;
+    connect(m_list, &DcList::isLocked, this, [&asked](int row) { asked << row; });
+    QTest::keyClick(view(), Qt::Key_Return);
+    QCOMPARE(asked, QList<int> { 0 });
+    QCOMPARE(m_list->CurrentMode(), 1);
+    m_list->LockedReturn(false);
+    QCOMPARE(m_list->CurrentMode(), 1);
+    m_list->LockedReturn(true);
+    QCOMPARE(m_list->CurrentMode(), 2);
+    QCOMPARE(m_list->CurrentCol(), 0);
+}
+
+void TestDcList::moveNextAppendsWithAutomaticNumbering()
+{
+    fillRows({ { "01.01.2026" }, { "02.01.2026" } });
+    QList<int> rows;
+    connect(m_list, &DcList::SatirChange, this, [&rows](int row) { rows << row; });
+    m_list->ChngSat(1);
+    m_list->MoveNext();
+    QCOMPARE(m_list->ListCount(), 2);
+    m_list->setOtoIncrement(true);
+    m_list->MoveNext();
+    QCOMPARE(m_list->ListCount(), 3);
+    QCOMPARE(m_list->CurSat(), 2);
+    m_list->MovePre();
+    QCOMPARE(rows, QList<int>({ 1, 2, 1 }));
+}
+
+void TestDcList::exportWithoutASpreadsheetApplication()
+{
+    SetSheetOpener([](const QString &path) {
+        QFile::remove(path);
+        return false;
+    });
+    QTest::keyClick(view(), Qt::Key_E, Qt::ControlModifier);
+    SetSheetOpener(nullptr);
+    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Excell Yüklü Değil veya Desteklenmeyen Versiyon") });
+}
+
 void TestDcList::exportOfAnEmptyList()
 {
     QString written;
@@ -374,18 +442,19 @@ void TestDcList::exportOfAnEmptyList()
     SetSheetOpener(nullptr);
     QVERIFY(QFile::exists(written));
     // The sheet's cells, as "reference=value" (shared strings resolved), read with Python's zipfile.
-    const QString script = QStringLiteral(
-        "import re,sys,zipfile\n"
-        "z=zipfile.ZipFile(sys.argv[1])\n"
-        "s=re.findall(r'<t[^>]*>([^<]*)</t>',z.read('xl/sharedStrings.xml').decode())\n"
-        "for a,b in re.findall(r'<c ([^>]*)>(.*?)</c>',z.read('xl/worksheets/sheet1.xml').decode()):\n"
-        "  r=re.search(r'r=\"(\\w+)\"',a).group(1); t=re.search(r't=\"(\\w+)\"',a); v=re.search(r'<v>([^<]*)</v>',b).group(1)\n"
-        "  print(r+'='+(s[int(v)] if t and t.group(1)=='s' else v))\n");
+    const QString script
+        = QStringLiteral("import re,sys,zipfile\n"
+                         "z=zipfile.ZipFile(sys.argv[1])\n"
+                         "s=re.findall(r'<t[^>]*>([^<]*)</t>',z.read('xl/sharedStrings.xml').decode())\n"
+                         "for a,b in re.findall(r'<c ([^>]*)>(.*?)</c>',z.read('xl/worksheets/sheet1.xml').decode()):\n"
+                         "  r=re.search(r'r=\"(\\w+)\"',a).group(1); t=re.search(r't=\"(\\w+)\"',a); "
+                         "v=re.search(r'<v>([^<]*)</v>',b).group(1)\n"
+                         "  print(r+'='+(s[int(v)] if t and t.group(1)=='s' else v))\n");
     QProcess python;
-    python.start(QStringLiteral("python3"), {QStringLiteral("-c"), script, written});
+    python.start(QStringLiteral("python3"), { QStringLiteral("-c"), script, written });
     QVERIFY(python.waitForFinished(20000));
     const QStringList cells = QString::fromUtf8(python.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(cells, QStringList({"A1=Stopaj Listesi", "B1=46342", "A4=Tarih", "B4=Açıklama", "C4=Tutar", "D4=B/A"}));
+    QCOMPARE(cells, QStringList({ "A1=Stopaj Listesi", "B1=46342", "A4=Tarih", "B4=Açıklama", "C4=Tutar", "D4=B/A" }));
     QFile::remove(written);
 }
 

@@ -54,7 +54,9 @@ void TestPrnx::onlyCompletedLinesAreSent()
     prnx.Lprint(QStringLiteral("X"), 0, true);
     prnx.Lprint(QStringLiteral("bekleyen"));
     prnx.ClosePrinter();
-    QCOMPARE(m_log.writes, QList<QByteArray>{QByteArray("   AB\x80" "A\xa6 X\r\n")});
+    QCOMPARE(m_log.writes,
+        QList<QByteArray> { QByteArray("   AB\x80"
+                                       "A\xa6 X\r\n") });
     QCOMPARE(prnx.SatirSayisi(), 1);
     QCOMPARE(m_log.title, QStringLiteral("S.M. Makbuzu"));
     QCOMPARE(m_log.closes, 1);
@@ -68,7 +70,9 @@ void TestPrnx::condensedDocumentStartsWithSI()
     prnx.YeniSayfa();
     prnx.Lprint(QStringLiteral("A"), 0, true);
     prnx.Lprint(QStringLiteral("B"), 0, true);
-    QCOMPARE(m_log.bytes(), QByteArray("\x0f" "A\r\nB\r\n"));
+    QCOMPARE(m_log.bytes(),
+        QByteArray("\x0f"
+                   "A\r\nB\r\n"));
 }
 
 void TestPrnx::pageFeedPadsTheForm_data()
@@ -138,7 +142,11 @@ void TestPrnx::rulesAndAttributes()
     prnx.YeniSayfa();
     prnx.LinePrint(3, true);
     prnx.Lprint(QStringLiteral("Ş"), 2, true, 0, false, true, true);
-    QCOMPARE(m_log.bytes(), QByteArray("\x1bG___\x1bH\x1b-\x01\x1b" "4\x9e \x1b" "5\x1b-\x00\r\n", 21));
+    QCOMPARE(m_log.bytes(),
+        QByteArray("\x1bG___\x1bH\x1b-\x01\x1b"
+                   "4\x9e \x1b"
+                   "5\x1b-\x00\r\n",
+            21));
 }
 
 void TestPrnx::failedOpenLeavesTheEngineClosed()
@@ -161,8 +169,10 @@ void TestPrnx::gridColumns_data()
     QTest::addColumn<QRect>("first");
     QTest::addColumn<QRect>("second");
     // 1320 pixels: ten to a column; lines of 40 pixels
-    QTest::newRow("columns") << 12 << 0 << QRect(QPoint(0, 0), QPoint(119, 39)) << QRect(QPoint(120, 0), QPoint(239, 39));
-    QTest::newRow("text width") << 0 << 37 << QRect(QPoint(0, 0), QPoint(36, 39)) << QRect(QPoint(37, 0), QPoint(156, 39));
+    QTest::newRow("columns") << 12 << 0 << QRect(QPoint(0, 0), QPoint(119, 39))
+                             << QRect(QPoint(120, 0), QPoint(239, 39));
+    QTest::newRow("text width") << 0 << 37 << QRect(QPoint(0, 0), QPoint(36, 39))
+                                << QRect(QPoint(37, 0), QPoint(156, 39));
 }
 
 void TestPrnx::gridColumns()
@@ -204,7 +214,7 @@ void TestPrnx::graphicPageAsPdf()
     prnx.ClosePrinter();
 
     QProcess text;
-    text.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), settings.pdfFile, QStringLiteral("-")});
+    text.start(QStringLiteral("pdftotext"), { QStringLiteral("-layout"), settings.pdfFile, QStringLiteral("-") });
     QVERIFY(text.waitForFinished(20000));
     const QString pages = QString::fromUtf8(text.readAllStandardOutput());
     QVERIFY2(pages.contains(QStringLiteral("GENEL BORÇ ALACAK LİSTESİ")), qPrintable(pages));

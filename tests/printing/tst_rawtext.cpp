@@ -48,14 +48,27 @@ void TestRawText::bytes_data()
     QTest::addColumn<QByteArray>("expected");
     QTest::newRow("Turkish letters in code page 857")
         << "ŞİŞLİ ÇAĞ" << false << false << false << QByteArray("\x9e\x98\x9e\x4c\x98\x20\x80\x41\xa6");
-    QTest::newRow("lower-case letters") << "çğıöşü" << false << false << false << QByteArray("\x87\xa7\x8d\x94\x9f\x81");
+    QTest::newRow("lower-case letters") << "çğıöşü" << false << false << false
+                                        << QByteArray("\x87\xa7\x8d\x94\x9f\x81");
     QTest::newRow("other letters keep Windows-1254") << "Âé€" << false << false << false << QByteArray("\xc2\xe9\x80");
-    QTest::newRow("bold") << "A" << true << false << false << QByteArray("\x1bG" "A" "\x1bH");
-    QTest::newRow("italic") << "A" << false << true << false << QByteArray("\x1b" "4A\x1b" "5");
-    QTest::newRow("underline") << "A" << false << false << true << QByteArray("\x1b-\x01" "A\x1b-\x00", 7);
-    QTest::newRow("all three nest bold, italic, underline")
-        << "A" << true << true << true
-        << QByteArray("\x1b-\x01\x1b" "4\x1bG" "A\x1bH\x1b" "5\x1b-\x00", 15);
+    QTest::newRow("bold") << "A" << true << false << false
+                          << QByteArray("\x1bG"
+                                        "A"
+                                        "\x1bH");
+    QTest::newRow("italic") << "A" << false << true << false
+                            << QByteArray("\x1b"
+                                          "4A\x1b"
+                                          "5");
+    QTest::newRow("underline") << "A" << false << false << true
+                               << QByteArray("\x1b-\x01"
+                                             "A\x1b-\x00",
+                                      7);
+    QTest::newRow("all three nest bold, italic, underline") << "A" << true << true << true
+                                                            << QByteArray("\x1b-\x01\x1b"
+                                                                          "4\x1bG"
+                                                                          "A\x1bH\x1b"
+                                                                          "5\x1b-\x00",
+                                                                   15);
 }
 
 void TestRawText::bytes()

@@ -34,8 +34,7 @@ private slots:
     void okWritesTheRecord();
 
 private:
-    template<typename T>
-    T *control(QDialog &dialog, const char *name)
+    template <typename T> T *control(QDialog &dialog, const char *name)
     {
         return dialog.findChild<T *>(QString::fromLatin1(name));
     }
@@ -75,7 +74,7 @@ void TestSpooler::withoutAPrinterOnlyCancelWorks()
     QVERIFY(control<QPushButton>(dialog, "Command5")->isEnabled());
     QVERIFY(!OpenDosPrinter());
     QVERIFY(m_spooler->addQueue(QStringLiteral("nokta")));
-    QCOMPARE(InstalledPrinters(), QStringList{QStringLiteral("nokta")});
+    QCOMPARE(InstalledPrinters(), QStringList { QStringLiteral("nokta") });
 }
 
 void TestSpooler::unknownPrinterOpensNothing()
@@ -121,8 +120,8 @@ void TestSpooler::continuousPrintingIsOneJob()
         prnx.ClosePrinter();
     }
     prnx.CloseSurekliBaski();
-    QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()),
-                              QByteArray("Makbuz 1\r\nMakbuz 2\r\nMakbuz 3\r\n"), 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(
+        m_spooler->received().mid(before.size()), QByteArray("Makbuz 1\r\nMakbuz 2\r\nMakbuz 3\r\n"), 20000);
     QCOMPARE(m_spooler->connections(), connections + 1);
     QCOMPARE(m_spooler->jobTitles().count(QStringLiteral("Sürekli")), 1);
 }
@@ -148,7 +147,7 @@ void TestSpooler::receiptPresetIsShown()
     QCOMPARE(control<QComboBox>(dialog, "Combo2")->currentText(), QStringLiteral("1"));
     QVERIFY(control<QRadioButton>(dialog, "Option1_0")->isChecked());
     QVERIFY(control<QRadioButton>(dialog, "Option2_0")->isChecked());
-    for (const char *check : {"Check1_0", "Check1_1", "Check1_2", "Check1_3"})
+    for (const char *check : { "Check1_0", "Check1_1", "Check1_2", "Check1_3" })
         QVERIFY(!control<QCheckBox>(dialog, check)->isChecked());
     QCOMPARE(control<QLineEdit>(dialog, "Text1")->text(), QStringLiteral("S.M. Makbuzu"));
     QVERIFY(control<QPushButton>(dialog, "Command4")->isEnabled());

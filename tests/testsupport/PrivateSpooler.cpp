@@ -37,8 +37,8 @@ PrivateSpooler::PrivateSpooler()
         return;
     }
     m_cupsd.start(QStringLiteral("/usr/sbin/cupsd"),
-                  {QStringLiteral("-f"), QStringLiteral("-c"), m_dir.filePath(QStringLiteral("cupsd.conf")),
-                   QStringLiteral("-s"), m_dir.filePath(QStringLiteral("cups-files.conf"))});
+        { QStringLiteral("-f"), QStringLiteral("-c"), m_dir.filePath(QStringLiteral("cupsd.conf")),
+            QStringLiteral("-s"), m_dir.filePath(QStringLiteral("cups-files.conf")) });
     if (!m_cupsd.waitForStarted(5000)) {
         m_error = QStringLiteral("cupsd does not start (is the cups package installed?)");
         return;
@@ -49,7 +49,7 @@ PrivateSpooler::PrivateSpooler()
     }
     cupsSetServer(m_socket.toUtf8().constData());
     qputenv("CUPS_SERVER", m_socket.toUtf8());
-    m_ready = run(QStringLiteral("lpstat"), {QStringLiteral("-r")});
+    m_ready = run(QStringLiteral("lpstat"), { QStringLiteral("-r") });
     if (!m_ready)
         m_error = QStringLiteral("the private scheduler does not answer");
 }
@@ -66,9 +66,10 @@ PrivateSpooler::~PrivateSpooler()
 bool PrivateSpooler::writeConfiguration()
 {
     const QString root = m_dir.path();
-    QFile::setPermissions(root, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup
-                                    | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
-    for (const char *folder : {"spool", "cache", "state", "log", "tmp", "ppd"})
+    QFile::setPermissions(root,
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther
+            | QFile::ExeOther);
+    for (const char *folder : { "spool", "cache", "state", "log", "tmp", "ppd" })
         if (!QDir(root).mkpath(QString::fromLatin1(folder)))
             return false;
     const QString scheduler = QStringLiteral("Listen %1\nLogLevel warn\nDefaultAuthType None\n"
@@ -90,22 +91,22 @@ bool PrivateSpooler::writeConfiguration()
 bool PrivateSpooler::run(const QString &program, const QStringList &arguments)
 {
     QProcess process;
-    process.start(program, QStringList{QStringLiteral("-h"), m_socket} + arguments);
+    process.start(program, QStringList { QStringLiteral("-h"), m_socket } + arguments);
     return process.waitForFinished(15000) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
 bool PrivateSpooler::addQueue(const QString &name, bool asDefault)
 {
     return run(QStringLiteral("lpadmin"),
-               {QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
-                QStringLiteral("socket://127.0.0.1:%1").arg(m_listener.serverPort()), QStringLiteral("-m"),
-                QStringLiteral("raw")})
-        && (!asDefault || run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), name}));
+               { QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
+                   QStringLiteral("socket://127.0.0.1:%1").arg(m_listener.serverPort()), QStringLiteral("-m"),
+                   QStringLiteral("raw") })
+        && (!asDefault || run(QStringLiteral("lpadmin"), { QStringLiteral("-d"), name }));
 }
 
 bool PrivateSpooler::removeQueue(const QString &name)
 {
-    return run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), name});
+    return run(QStringLiteral("lpadmin"), { QStringLiteral("-x"), name });
 }
 
 QStringList PrivateSpooler::jobTitles() const
