@@ -8,7 +8,6 @@
 #include "core/Message.h"
 
 #include <QApplication>
-#include <QCollator>
 #include <QDateTime>
 #include <QDir>
 #include <QHeaderView>
@@ -20,7 +19,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -319,16 +317,13 @@ void DcList::Flash()
 
 bool DcList::FindByName(const QString &name, const QString &text, int from)
 {
-    const int column = m_model->columnByName(name);
-    const QString needle = turkish.toUpper(text.trimmed());
-    for (int row = qMax(0, from); column >= 0 && row < ListCount(); ++row) {
-        if (turkish.toUpper(m_model->cell(row, column).trimmed()).contains(needle)) {
-            ChngSat(row);
-            return true;
-        }
+    const int row = m_model->findRow(m_model->columnByName(name), text, from);
+    if (row < 0) {
+        Message::information(QStringLiteral("Aranan Kayıt Bulunamadı !"));
+        return false;
     }
-    Message::information(QStringLiteral("Aranan Kayıt Bulunamadı !"));
-    return false;
+    ChngSat(row);
+    return true;
 }
 
 void DcList::headerClicked(int col)
@@ -341,27 +336,8 @@ void DcList::headerClicked(int col)
 
 void DcList::sorting(int col)
 {
-    if (col < 0 || col >= m_model->columnCount())
-        return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const DcColumn &column = m_model->columns()[size_t(col)];
-    QCollator collator(turkish);
-    std::vector<int> order(static_cast<size_t>(ListCount()));
-    std::iota(order.begin(), order.end(), 0);
-    const auto less = [&](int a, int b) {
-        const QString x = m_model->cell(a, col);
-        const QString y = m_model->cell(b, col);
-        if (column.isNumber())
-            return QLocale::c().toDouble(x) < QLocale::c().toDouble(y);
-        if (column.isDate())
-            return QDate::fromString(x, dateFormat) < QDate::fromString(y, dateFormat);
-        return collator.compare(x, y) < 0;
-    };
-    if (m_ascending)
-        std::stable_sort(order.begin(), order.end(), less);
-    else
-        std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return less(b, a); });
-    m_model->reorder(order);
+    m_model->sortRows(col, m_ascending);
     QApplication::restoreOverrideCursor();
 }
 

@@ -1,5 +1,11 @@
 #include "controls/DcListModel.h"
 
+#include <QCollator>
+#include <QDate>
+#include <QLocale>
+
+#include <algorithm>
+
 DcListModel::DcListModel(QObject *parent)
     : QAbstractTableModel(parent)
 {
@@ -147,15 +153,39 @@ void DcListModel::setRow(int row, const QStringList &values)
     emit dataChanged(index(row, 0), index(row, columnCount() - 1));
 }
 
-void DcListModel::reorder(const std::vector<int> &order)
+void DcListModel::sortRows(int column, bool ascending)
 {
+    if (column < 0 || column >= columnCount())
+        return;
+    const DcColumn &kind = m_columns[size_t(column)];
+    const QString dates = QStringLiteral("dd.MM.yyyy");
+    QCollator collator(QLocale(QLocale::Turkish, QLocale::Turkey));
+    const auto less = [&](const QStringList &a, const QStringList &b) {
+        const QString &x = a[column];
+        const QString &y = b[column];
+        if (kind.isNumber())
+            return QLocale::c().toDouble(x) < QLocale::c().toDouble(y);
+        if (kind.isDate())
+            return QDate::fromString(x, dates) < QDate::fromString(y, dates);
+        return collator.compare(x, y) < 0;
+    };
     emit layoutAboutToBeChanged();
-    std::vector<QStringList> sorted;
-    sorted.reserve(order.size());
-    for (int row : order)
-        sorted.push_back(std::move(m_rows[size_t(row)]));
-    m_rows = std::move(sorted);
+    if (ascending)
+        std::stable_sort(m_rows.begin(), m_rows.end(), less);
+    else
+        std::stable_sort(
+            m_rows.begin(), m_rows.end(), [&](const QStringList &a, const QStringList &b) { return less(b, a); });
     emit layoutChanged();
+}
+
+int DcListModel::findRow(int column, const QString &text, int from) const
+{
+    const QLocale turkish(QLocale::Turkish, QLocale::Turkey);
+    const QString needle = turkish.toUpper(text.trimmed());
+    for (int row = qMax(0, from); column >= 0 && column < columnCount() && row < rowCount(); ++row)
+        if (turkish.toUpper(cell(row, column).trimmed()).contains(needle))
+            return row;
+    return -1;
 }
 
 void DcListModel::setOverlay(int row, const QStringList &values)

@@ -37,8 +37,12 @@ public:
     QString cell(int row, int column) const;
     void setCell(int row, int column, const QString &value);
     void setRow(int row, const QStringList &values);
-    // Rows swapped into the given order (a permutation of the row numbers).
-    void reorder(const std::vector<int> &order);
+    // Sorts the rows by a column (numbers as numbers, dates as dates, texts in Turkish order);
+    // rows with equal values keep their order.
+    void sortRows(int column, bool ascending);
+    // The first row from `from` on whose cell contains the text, both trimmed and upper-cased
+    // the Turkish way; -1 when none does.
+    int findRow(int column, const QString &text, int from) const;
 
     // Shows these values in a row instead of its cells while it is being edited.
     void setOverlay(int row, const QStringList &values);
