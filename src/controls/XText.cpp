@@ -505,4 +505,5 @@ void XText::focusOut()
         const QDate date = dateOf(m_edit->text());
         m_edit->setText(date.isValid() ? FormatDate(date) : QStringLiteral("??.??.????"));
     }
+    emit Left();
 }

@@ -69,6 +69,8 @@ signals:
     // Every key the field does not use itself; a handler that sets key to 0 takes the key.
     void KeyDown(int &key, Qt::KeyboardModifiers &modifiers);
     void ButtonClick();
+    // The field lost the focus (after re-showing its value).
+    void Left();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,9 +1,11 @@
 #include "core/ProgramScreens.h"
 
+#include "accounts/AccountCardsScreen.h"
 #include "core/MainWindow.h"
 #include "core/SettingsScreen.h"
 
 void AddProgramScreens(MainWindow &window)
 {
+    window.addScreen(QStringLiteral("mnucarkart"), [] { return new AccountCardsScreen; });
     window.addScreen(QStringLiteral("mnuayarlar"), [] { return new SettingsScreen; });
 }

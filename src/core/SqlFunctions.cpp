@@ -46,6 +46,21 @@ void yearOfDayNumber(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_int(context, date.year());
 }
 
+QString textArgument(sqlite3_value *value)
+{
+    const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(value));
+    return text ? QString::fromUtf8(text, sqlite3_value_bytes(value)) : QString();
+}
+
+// startsWith(text, prefix): 1 when text begins with prefix in the Turkish sense (case folded
+// the Turkish way), else 0. The prefix is taken literally: no character is a wildcard.
+void startsWithTurkish(sqlite3_context *context, int, sqlite3_value **arguments)
+{
+    const QString text = textArgument(arguments[0]);
+    const QString prefix = textArgument(arguments[1]);
+    sqlite3_result_int(context, turkishCollator().compare(QStringView(text).left(prefix.size()), prefix) == 0);
+}
+
 } // namespace
 
 bool registerSqlFunctions(sqlite3 *db)
@@ -53,5 +68,8 @@ bool registerSqlFunctions(sqlite3 *db)
     return sqlite3_create_collation_v2(db, "TR", SQLITE_UTF8, nullptr, compareTurkish, nullptr) == SQLITE_OK
         && sqlite3_create_function_v2(
                db, "year", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, yearOfDayNumber, nullptr, nullptr, nullptr)
+        == SQLITE_OK
+        && sqlite3_create_function_v2(db, "startsWith", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                                      startsWithTurkish, nullptr, nullptr, nullptr)
         == SQLITE_OK;
 }

@@ -1,0 +1,157 @@
+#include "accounts/AccountLookup.h"
+
+#include "controls/DcList.h"
+#include "controls/XText.h"
+#include "core/AccessLayer.h"
+#include "core/DataFiles.h"
+#include "core/OpenInMain.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QPushButton>
+#include <QStyle>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+QString &selectedCode()
+{
+    static QString code;
+    return code;
+}
+
+QLabel *labelFor(const QString &caption, XText *field, QWidget *parent)
+{
+    auto *label = new QLabel(caption, parent);
+    label->setBuddy(field);
+    field->setAccessibleName(caption);
+    field->textBox()->setAccessibleName(caption);
+    return label;
+}
+
+} // namespace
+
+QString SelectedAccountCode()
+{
+    return selectedCode();
+}
+
+void SetSelectedAccountCode(const QString &code)
+{
+    selectedCode() = code;
+}
+
+AccountLookup::AccountLookup(QWidget *parent)
+    : QDialog(parent)
+    , m_code(new XText(this))
+    , m_title(new XText(this))
+    , m_list(new DcList(this))
+{
+    setObjectName(QStringLiteral("Form5"));
+    setWindowTitle(QStringLiteral("Hesap Rehberi"));
+    if (QMdiArea *area = MainArea())
+        setWindowIcon(area->window()->windowIcon());
+    m_code->setObjectName(QStringLiteral("xtext1_0"));
+    m_title->setObjectName(QStringLiteral("xtext1_1"));
+    m_list->setObjectName(QStringLiteral("dclist1"));
+    m_code->xTextBicim(XText::TextFormat, 8, Qt::AlignLeft, true, 0, 0);
+    m_title->xTextBicim(XText::TextFormat, 40, Qt::AlignLeft, true, 0, 0);
+    m_list->Add(QStringLiteral("a"), QStringLiteral("kod"), QStringLiteral("Kod"), 100, 8);
+    m_list->Add(QStringLiteral("a"), QStringLiteral("unvan"), QStringLiteral("Ünvan"), 300, 40);
+    m_list->setEditable(false);
+    m_list->setAccessibleName(QStringLiteral("Hesaplar"));
+    m_list->view()->setAccessibleName(QStringLiteral("Hesaplar"));
+
+    auto *ok = new QPushButton(QStringLiteral("Tamam"), this);
+    ok->setObjectName(QStringLiteral("tamam"));
+    auto *cancelButton = new QPushButton(QStringLiteral("Vazgeç"), this);
+    cancelButton->setObjectName(QStringLiteral("vazgec"));
+    ok->setAutoDefault(false);
+    cancelButton->setAutoDefault(false);
+
+    auto *fields = new QGridLayout;
+    fields->addWidget(labelFor(QStringLiteral("Kod"), m_code, this), 0, 0);
+    fields->addWidget(m_code, 0, 1);
+    fields->addWidget(labelFor(QStringLiteral("Ünvan"), m_title, this), 1, 0);
+    fields->addWidget(m_title, 1, 1);
+    fields->setColumnStretch(1, 1);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(ok);
+    buttons->addWidget(cancelButton);
+    auto *page = new QVBoxLayout(this);
+    page->addLayout(fields);
+    page->addWidget(m_list, 1);
+    page->addLayout(buttons);
+    resize(460, 420);
+
+    connect(m_code, &XText::Change, this, &AccountLookup::search);
+    connect(m_title, &XText::Change, this, &AccountLookup::search);
+    connect(m_code, &XText::Left, this, [this] {
+        if (!m_code->Text().isEmpty())
+            m_list->setFocus();
+    });
+    connect(m_list, &DcList::SatirChange, this, [this](int row) { m_currentKod = m_list->Caption(row, 0); });
+    connect(m_list, &DcList::KeyDown, this, [this](int key, int, int) {
+        if (key == Qt::Key_Return || key == Qt::Key_Enter)
+            choose();
+        else if (key == Qt::Key_Escape)
+            cancel();
+    });
+    connect(ok, &QPushButton::clicked, this, &AccountLookup::choose);
+    connect(cancelButton, &QPushButton::clicked, this, &AccountLookup::cancel);
+
+    SetSelectedAccountCode(QString());
+    setTabOrder(m_code, m_title);
+    setTabOrder(m_title, m_list);
+    m_code->setFocus();
+    search();
+}
+
+void AccountLookup::search()
+{
+    const bool byCode = !m_code->Text().isEmpty();
+    const QString sql = byCode
+        ? QStringLiteral("SELECT kod, unv FROM carkart WHERE startsWith(kod, ?1) ORDER BY kod")
+        : QStringLiteral("SELECT kod, unv FROM carkart WHERE startsWith(unv, ?1) ORDER BY unv");
+    std::unique_ptr<Recordset> rows;
+    const bool found = QueryOpen(*dataFiles().db, rows, sql, {byCode ? m_code->Text() : m_title->Text()});
+    m_list->Clear();
+    if (!found)
+        return;
+    do {
+        const int row = m_list->CreateNewCaption();
+        m_list->setCaption(row, 0, FieldRead(*rows, QStringLiteral("kod")).toString());
+        m_list->setCaption(row, 1, FieldRead(*rows, QStringLiteral("unv")).toString());
+    } while (RsNext(*rows));
+}
+
+void AccountLookup::choose()
+{
+    SetSelectedAccountCode(m_currentKod);
+    accept();
+}
+
+void AccountLookup::cancel()
+{
+    SetSelectedAccountCode(QString());
+    reject();
+}
+
+void AttachAccountLookup(XText *field)
+{
+    field->setButton(true);
+    field->setPicture(field->style()->standardIcon(QStyle::SP_FileDialogContentsView));
+    QObject::connect(field, &XText::ButtonClick, field, [field] {
+        AccountLookup lookup(field->window());
+        lookup.exec();
+        if (!SelectedAccountCode().isEmpty())
+            field->setText(SelectedAccountCode());
+        SetSelectedAccountCode(QString());
+        field->setFocus();
+    });
+}

@@ -1,0 +1,94 @@
+#include "accounts/BalancePanel.h"
+
+#include "core/AccessLayer.h"
+#include "core/DataFiles.h"
+#include "money/FormatAmount.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+Currency magnitude(const QVariant &sum)
+{
+    const qint64 raw = sum.toLongLong();
+    return Currency::fromRaw(raw < 0 ? -raw : raw);
+}
+
+} // namespace
+
+BalancePanel::BalancePanel(QWidget *parent)
+    : QWidget(parent)
+{
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    const char16_t *columns[] = {u"Borç", u"Alacak", u"Bakiye"};
+    const char16_t *rows[] = {u"Bakiye", u"Emanet", u"Toplam"};
+    for (int c = 0; c < 3; ++c) {
+        auto *heading = new QLabel(QString::fromUtf16(columns[c]), this);
+        heading->setAlignment(Qt::AlignCenter);
+        QFont bold = heading->font();
+        bold.setBold(true);
+        heading->setFont(bold);
+        grid->addWidget(heading, 0, c + 1);
+    }
+    for (int r = 0; r < 3; ++r) {
+        const QString rowName = QString::fromUtf16(rows[r]);
+        auto *caption = new QLabel(rowName, this);
+        QFont bold = caption->font();
+        bold.setBold(true);
+        caption->setFont(bold);
+        grid->addWidget(caption, r + 1, 0);
+        for (int c = 0; c < 3; ++c) {
+            auto *amount = new QLabel(this);
+            amount->setObjectName(QStringLiteral("bakiye_%1_%2").arg(r).arg(c));
+            amount->setAccessibleName(rowName + u' ' + QString::fromUtf16(columns[c]));
+            amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            amount->setFrameShape(QFrame::StyledPanel);
+            amount->setMinimumWidth(120);
+            amount->setTextInteractionFlags(Qt::TextSelectableByMouse);
+            grid->addWidget(amount, r + 1, c + 1);
+            m_amounts[r][c] = amount;
+        }
+    }
+}
+
+bool BalancePanel::sums(const QString &code, bool receipts, Currency *debit, Currency *credit) const
+{
+    const QString sql = QStringLiteral("SELECT sum(tutar * (ba = 0)) AS bsmm, sum(tutar * (ba = 1)) AS asmm "
+                                       "FROM carhar WHERE kod = ?1 AND islem %1 2")
+                            .arg(receipts ? QStringLiteral("=") : QStringLiteral("<>"));
+    std::unique_ptr<Recordset> result;
+    if (!QueryOpen(*dataFiles().db, result, sql, {code}))
+        return false;
+    *debit = magnitude(FieldRead(*result, QStringLiteral("bsmm")));
+    *credit = magnitude(FieldRead(*result, QStringLiteral("asmm")));
+    return true;
+}
+
+void BalancePanel::showAccount(const QString &code)
+{
+    sums(code, false, &m_otherDebit, &m_otherCredit);
+    sums(code, true, &m_receiptDebit, &m_receiptCredit);
+    const Currency amounts[3][3] = {
+        {m_otherDebit, m_otherCredit, m_otherDebit - m_otherCredit},
+        {m_receiptDebit, m_receiptCredit, m_receiptDebit - m_receiptCredit},
+        {m_otherDebit + m_receiptDebit, m_otherCredit + m_receiptCredit,
+         (m_otherDebit + m_receiptDebit) - (m_otherCredit + m_receiptCredit)},
+    };
+    for (int r = 0; r < 3; ++r)
+        for (int c = 0; c < 3; ++c)
+            m_amounts[r][c]->setText(FormatAmount(amounts[r][c]));
+}
+
+void BalancePanel::clear()
+{
+    for (auto &row : m_amounts)
+        for (QLabel *amount : row)
+            amount->clear();
+}
+
+QString BalancePanel::amountText(int row, int column) const
+{
+    return m_amounts[row][column]->text();
+}

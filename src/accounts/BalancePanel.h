@@ -1,0 +1,28 @@
+#pragma once
+
+#include "money/Currency.h"
+
+#include <QWidget>
+
+class QLabel;
+
+// The nine amounts beside an account card: debit, credit and balance of the account's other
+// transactions ("Bakiye"), of its receipt postings ("Emanet"), and of both ("Toplam").
+class BalancePanel : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit BalancePanel(QWidget *parent = nullptr);
+
+    // Recomputes the amounts of an account; a query that fails keeps the earlier pair.
+    void showAccount(const QString &code);
+    void clear();
+    // The label of a row (0 Bakiye, 1 Emanet, 2 Toplam) and column (0 Borç, 1 Alacak, 2 Bakiye).
+    QString amountText(int row, int column) const;
+
+private:
+    bool sums(const QString &code, bool receipts, Currency *debit, Currency *credit) const;
+
+    QLabel *m_amounts[3][3] = {};
+    Currency m_otherDebit, m_otherCredit, m_receiptDebit, m_receiptCredit;
+};
