@@ -28,20 +28,20 @@ struct CardField
     int limit;
 };
 
-const std::array<CardField, 12> cardFields = {{
-    {u"Kod", u"kod", 8},
-    {u"Ünvan", u"unv", 40},
-    {u"Adres", u"adr1", 40},
-    {u"Adres 2", u"adr2", 40},
-    {u"V.Dairesi", u"vd", 15},
-    {u"V.No", u"vn", 15},
-    {u"Aylık Brüt Ücret", u"ucret", 999999999},
-    {u"Cari Tip", u"tip", 2},
-    {u"Not 1", u"not1", 40},
-    {u"Not 2", u"not2", 40},
-    {u"Not 3", u"not3", 40},
-    {u"Not 4", u"not4", 40},
-}};
+const std::array<CardField, 12> cardFields = { {
+    { u"Kod", u"kod", 8 },
+    { u"Ünvan", u"unv", 40 },
+    { u"Adres", u"adr1", 40 },
+    { u"Adres 2", u"adr2", 40 },
+    { u"V.Dairesi", u"vd", 15 },
+    { u"V.No", u"vn", 15 },
+    { u"Aylık Brüt Ücret", u"ucret", 999999999 },
+    { u"Cari Tip", u"tip", 2 },
+    { u"Not 1", u"not1", 40 },
+    { u"Not 2", u"not2", 40 },
+    { u"Not 3", u"not3", 40 },
+    { u"Not 4", u"not4", 40 },
+} };
 
 const int amountField = 6;
 const int typeField = 7;
@@ -77,18 +77,18 @@ AccountCardsScreen::AccountCardsScreen(QWidget *parent)
     toolbar->setIconSize(QSize(22, 22));
     toolbar->setFocusPolicy(Qt::NoFocus);
     addButton(3, QStyle::SP_MediaSkipBackward, QStringLiteral("go-first"), QStringLiteral("İlk Kart (Ctrl+Home)"),
-              &AccountCardsScreen::goFirst);
-    addButton(2, QStyle::SP_MediaSeekBackward, QStringLiteral("go-previous"),
-              QStringLiteral("Önceki Kart (PgUp)"), &AccountCardsScreen::goPrevious);
+        &AccountCardsScreen::goFirst);
+    addButton(2, QStyle::SP_MediaSeekBackward, QStringLiteral("go-previous"), QStringLiteral("Önceki Kart (PgUp)"),
+        &AccountCardsScreen::goPrevious);
     addButton(1, QStyle::SP_MediaSeekForward, QStringLiteral("go-next"), QStringLiteral("Sonraki Kart (PgDn)"),
-              &AccountCardsScreen::goNext);
+        &AccountCardsScreen::goNext);
     addButton(0, QStyle::SP_MediaSkipForward, QStringLiteral("go-last"), QStringLiteral("Son Kart (Ctrl+End)"),
-              &AccountCardsScreen::goLast);
+        &AccountCardsScreen::goLast);
     addButton(4, QStyle::SP_DialogSaveButton, QStringLiteral("document-save"), QStringLiteral("Kaydet (F5)"),
-              &AccountCardsScreen::save);
+        &AccountCardsScreen::save);
     addButton(5, QStyle::SP_TrashIcon, QStringLiteral("edit-delete"), QStringLiteral("Sil (F7)"),
-              &AccountCardsScreen::remove);
-    for (size_t i : {3, 2, 1, 0}) // navigation first, in reading order
+        &AccountCardsScreen::remove);
+    for (size_t i : { 3, 2, 1, 0 }) // navigation first, in reading order
         toolbar->addWidget(m_buttons[i]);
     toolbar->addSeparator();
     toolbar->addWidget(m_buttons[4]);
@@ -106,7 +106,7 @@ AccountCardsScreen::AccountCardsScreen(QWidget *parent)
         else if (index == typeField)
             field->xTextBicim(XText::NumberFormat, layout.limit, Qt::AlignLeft, true, 0, 3);
         else
-            field->xTextBicim(XText::TextFormat, layout.limit, Qt::AlignLeft, true, 0, 0);
+            field->xTextBicim(XText::TextFormat, layout.limit, Qt::AlignLeft, index == 0, 0, 0);
         field->setMinimumWidth(isText(index) ? (layout.limit > 15 ? 330 : 150) : 150);
         QLabel *label = labelFor(QString::fromUtf16(layout.label), field);
         if (index == 3)
@@ -142,12 +142,12 @@ AccountCardsScreen::AccountCardsScreen(QWidget *parent)
     page->addLayout(body);
     page->addStretch();
 
-    setFocusChain({m_fields[0], m_fields[1], m_fields[2], m_fields[3], m_fields[4], m_fields[5], m_fields[6],
-                   m_fields[7], m_fields[8], m_fields[9], m_fields[10], m_fields[11]});
+    setFocusChain({ m_fields[0], m_fields[1], m_fields[2], m_fields[3], m_fields[4], m_fields[5], m_fields[6],
+        m_fields[7], m_fields[8], m_fields[9], m_fields[10], m_fields[11] });
 }
 
 void AccountCardsScreen::addButton(int index, QStyle::StandardPixmap picture, const QString &themeIcon,
-                                   const QString &text, void (AccountCardsScreen::*action)())
+    const QString &text, void (AccountCardsScreen::*action)())
 {
     auto *button = new QToolButton(this);
     button->setObjectName(QStringLiteral("Command1_%1").arg(index));
@@ -283,7 +283,7 @@ void AccountCardsScreen::remove()
         Message::exclamation(QStringLiteral("Kart Silinemedi."));
         return;
     }
-    SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM carhar WHERE kod = ?1"), {code});
+    SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM carhar WHERE kod = ?1"), { code });
     ShrinkEffect(false);
     clearCard();
     m_fields[0]->setText(QString());

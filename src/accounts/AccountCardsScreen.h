@@ -29,16 +29,16 @@ public:
 
 private:
     void addButton(int index, QStyle::StandardPixmap picture, const QString &themeIcon, const QString &text,
-                   void (AccountCardsScreen::*action)());
+        void (AccountCardsScreen::*action)());
     void fieldKey(int &key, Qt::KeyboardModifiers &modifiers);
     void codeLeft();
     void display();
     void showMoved(bool moved);
     void clearCard();
 
-    std::array<XText *, 12> m_fields{};
+    std::array<XText *, 12> m_fields {};
     QLabel *m_type;
     BalancePanel *m_balance;
-    std::array<QToolButton *, 6> m_buttons{};
+    std::array<QToolButton *, 6> m_buttons {};
     QString m_lastKod;
 };

@@ -22,8 +22,8 @@ BalancePanel::BalancePanel(QWidget *parent)
 {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    const char16_t *columns[] = {u"Borç", u"Alacak", u"Bakiye"};
-    const char16_t *rows[] = {u"Bakiye", u"Emanet", u"Toplam"};
+    const char16_t *columns[] = { u"Borç", u"Alacak", u"Bakiye" };
+    const char16_t *rows[] = { u"Bakiye", u"Emanet", u"Toplam" };
     for (int c = 0; c < 3; ++c) {
         auto *heading = new QLabel(QString::fromUtf16(columns[c]), this);
         heading->setAlignment(Qt::AlignCenter);
@@ -59,7 +59,7 @@ bool BalancePanel::sums(const QString &code, bool receipts, Currency *debit, Cur
                                        "FROM carhar WHERE kod = ?1 AND islem %1 2")
                             .arg(receipts ? QStringLiteral("=") : QStringLiteral("<>"));
     std::unique_ptr<Recordset> result;
-    if (!QueryOpen(*dataFiles().db, result, sql, {code}))
+    if (!QueryOpen(*dataFiles().db, result, sql, { code }))
         return false;
     *debit = magnitude(FieldRead(*result, QStringLiteral("bsmm")));
     *credit = magnitude(FieldRead(*result, QStringLiteral("asmm")));
@@ -71,10 +71,10 @@ void BalancePanel::showAccount(const QString &code)
     sums(code, false, &m_otherDebit, &m_otherCredit);
     sums(code, true, &m_receiptDebit, &m_receiptCredit);
     const Currency amounts[3][3] = {
-        {m_otherDebit, m_otherCredit, m_otherDebit - m_otherCredit},
-        {m_receiptDebit, m_receiptCredit, m_receiptDebit - m_receiptCredit},
-        {m_otherDebit + m_receiptDebit, m_otherCredit + m_receiptCredit,
-         (m_otherDebit + m_receiptDebit) - (m_otherCredit + m_receiptCredit)},
+        { m_otherDebit, m_otherCredit, m_otherDebit - m_otherCredit },
+        { m_receiptDebit, m_receiptCredit, m_receiptDebit - m_receiptCredit },
+        { m_otherDebit + m_receiptDebit, m_otherCredit + m_receiptCredit,
+            (m_otherDebit + m_receiptDebit) - (m_otherCredit + m_receiptCredit) },
     };
     for (int r = 0; r < 3; ++r)
         for (int c = 0; c < 3; ++c)

@@ -70,6 +70,6 @@ bool registerSqlFunctions(sqlite3 *db)
                db, "year", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, yearOfDayNumber, nullptr, nullptr, nullptr)
         == SQLITE_OK
         && sqlite3_create_function_v2(db, "startsWith", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
-                                      startsWithTurkish, nullptr, nullptr, nullptr)
+               startsWithTurkish, nullptr, nullptr, nullptr)
         == SQLITE_OK;
 }

@@ -1,0 +1,223 @@
+#include "accounts/AccountCardsScreen.h"
+#include "controls/XText.h"
+#include "core/AccessLayer.h"
+#include "core/DataFiles.h"
+#include "core/MainWindow.h"
+#include "core/Parameters.h"
+#include "core/ProgramScreens.h"
+#include "money/AmountConventions.h"
+#include "testsupport/Books.h"
+#include "testsupport/MessageLog.h"
+#include "testsupport/QueryTexts.h"
+#include "testsupport/TestDataFolder.h"
+#include "testsupport/Typing.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QtTest>
+
+class TestAccountCards : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void opensFromTheMenu();
+    void newCodeClearsTheCardButKeepsTheNotes();
+    void blankCodeSavesNothing();
+    void balancePanel_data();
+    void balancePanel();
+    void deleteAsksFirst();
+    void movingStopsAtBothEnds();
+
+private:
+    XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
+    QString panel(int row, int column) const
+    {
+        return m_screen->findChild<QLabel *>(QStringLiteral("bakiye_%1_%2").arg(row).arg(column))->text();
+    }
+    void typeInto(int index, const QString &keys);
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    std::unique_ptr<MessageLog> m_messages;
+    std::unique_ptr<TestDataFolder> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+    QPointer<AccountCardsScreen> m_screen;
+};
+
+void TestAccountCards::init()
+{
+    m_messages = std::make_unique<MessageLog>();
+    m_folder = std::make_unique<TestDataFolder>();
+    QVERIFY(m_folder->isReady());
+    amountConventions().tlonda = 2;
+    QVERIFY(AddCard(QStringLiteral("B1"), QStringLiteral("Birinci")));
+    QVERIFY(AddCard(QStringLiteral("C1"), QStringLiteral("Çağlar")));
+    QVERIFY(AddCard(QStringLiteral("A1"), QStringLiteral("Ahmet")));
+    m_window = std::make_unique<MainWindow>();
+    AddProgramScreens(*m_window);
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->menuItem(QStringLiteral("mnucarkart"))->trigger();
+    m_screen = m_window->findChild<AccountCardsScreen *>(QStringLiteral("Form3"));
+    QVERIFY(m_screen);
+}
+
+void TestAccountCards::cleanup()
+{
+    m_window.reset();
+    m_folder.reset();
+    m_messages.reset();
+}
+
+void TestAccountCards::typeInto(int index, const QString &keys)
+{
+    field(index)->setFocus();
+    QCoreApplication::processEvents(); // the field selects its text on entry
+    typeKeys(field(index)->textBox(), keys);
+}
+
+void TestAccountCards::key(int key, Qt::KeyboardModifiers modifiers)
+{
+    QWidget *focused = QApplication::focusWidget();
+    QVERIFY(focused);
+    QTest::keyClick(focused, Qt::Key(key), modifiers);
+}
+
+void TestAccountCards::opensFromTheMenu()
+{
+    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Cari Kartlar"));
+    QVERIFY(field(0)->textBox()->hasFocus());
+    QVERIFY(field(0)->Button());
+    QCOMPARE(field(6)->Onda(), 2);
+    QCOMPARE(field(2)->accessibleName(), QStringLiteral("Adres"));
+    QCOMPARE(
+        m_screen->findChild<QToolButton *>(QStringLiteral("Command1_4"))->toolTip(), QStringLiteral("Kaydet (F5)"));
+}
+
+void TestAccountCards::newCodeClearsTheCardButKeepsTheNotes()
+{
+    typeInto(0, QStringLiteral("A1"));
+    key(Qt::Key_Return); // leaving the code field shows the card
+    QCOMPARE(field(1)->Text(), QStringLiteral("Ahmet"));
+    QTest::keyClick(field(1)->textBox(), Qt::Key_End);
+    typeInto(1, QStringLiteral(" Bey"));
+    typeInto(6, QStringLiteral("1500"));
+    typeInto(7, QStringLiteral("1"));
+    typeInto(8, QStringLiteral("Telefon 555"));
+    key(Qt::Key_F5);
+    QCOMPARE(m_messages->entries().size(), 0);
+    QVERIFY(CariExists(QStringLiteral("A1")));
+    QCOMPARE(FieldRead(*dataFiles().carkart, QStringLiteral("unv")).toString(), QStringLiteral("Ahmet Bey"));
+    QCOMPARE(FieldRead(*dataFiles().carkart, QStringLiteral("tip")).toInt(), 1);
+    QCOMPARE(FieldRead(*dataFiles().carkart, QStringLiteral("ucret")).value<Currency>(), Currency::fromUnits(1500));
+
+    field(0)->setFocus();
+    typeInto(0, QStringLiteral("Y9"));
+    key(Qt::Key_Return);
+    for (int i = 1; i <= 5; ++i)
+        QCOMPARE(field(i)->Text(), QString());
+    QCOMPARE(field(6)->Value().toDouble(), 0.0);
+    QCOMPARE(m_screen->findChild<QLabel *>(QStringLiteral("cariTip"))->text(), QString());
+    QCOMPARE(field(8)->Text(), QStringLiteral("Telefon 555"));
+    key(Qt::Key_F5);
+    QVERIFY(CariExists(QStringLiteral("Y9")));
+    QCOMPARE(FieldRead(*dataFiles().carkart, QStringLiteral("not1")).toString(), QStringLiteral("Telefon 555"));
+}
+
+void TestAccountCards::blankCodeSavesNothing()
+{
+    typeInto(0, QStringLiteral("   "));
+    typeInto(1, QStringLiteral("Boş"));
+    key(Qt::Key_F5);
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carkart"), QStringLiteral("n")), QStringList { "3" });
+    QVERIFY(m_messages->entries().isEmpty());
+}
+
+void TestAccountCards::balancePanel_data()
+{
+    QTest::addColumn<bool>("withDeposit");
+    QTest::addColumn<QStringList>("expected"); // the nine labels row by row
+    QTest::newRow("only receipts") << false
+                                   << QStringList { "", "", "", "1,000.00", "250.00", "750.00", "1,000.00", "250.00",
+                                          "750.00" };
+    QTest::newRow("with a deposit") << true
+                                    << QStringList { "", "300.00", "-300.00", "1,000.00", "250.00", "750.00",
+                                           "1,000.00", "550.00", "450.00" };
+}
+
+void TestAccountCards::balancePanel()
+{
+    QFETCH(bool, withDeposit);
+    QFETCH(QStringList, expected);
+    QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 0, Currency::fromUnits(600)));
+    QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 0, Currency::fromUnits(400)));
+    QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 1, Currency::fromUnits(250)));
+    QVERIFY(AddTransaction(QStringLiteral("C1"), 1, 0, Currency::fromUnits(99)));
+    if (withDeposit)
+        QVERIFY(AddTransaction(QStringLiteral("B1"), 3, 1, Currency::fromUnits(300)));
+    typeInto(0, QStringLiteral("b1"));
+    key(Qt::Key_Return);
+    QStringList shown;
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 3; ++column)
+            shown << panel(row, column);
+    QCOMPARE(shown, expected);
+}
+
+void TestAccountCards::deleteAsksFirst()
+{
+    QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 0, Currency::fromUnits(600)));
+    QVERIFY(AddTransaction(QStringLiteral("B1"), 1, 1, Currency::fromUnits(100)));
+    QVERIFY(AddTransaction(QStringLiteral("C1"), 1, 1, Currency::fromUnits(100)));
+    typeInto(0, QStringLiteral("B1"));
+    key(Qt::Key_Return);
+    m_messages->answerNext(false);
+    key(Qt::Key_F7);
+    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Kart Silinecek Eminmisiniz ?") });
+    QCOMPARE(m_messages->entries().first().kind, Message::Kind::Question);
+    QVERIFY(CariExists(QStringLiteral("B1")));
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "3" });
+
+    m_messages->answerNext(true);
+    key(Qt::Key_F7);
+    QVERIFY(!CariExists(QStringLiteral("B1")));
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT kod FROM carhar"), QStringLiteral("kod")), QStringList { "C1" });
+    QCOMPARE(field(0)->Text(), QString());
+    QCOMPARE(field(1)->Text(), QString());
+
+    typeInto(0, QStringLiteral("B1"));
+    key(Qt::Key_F7);
+    QCOMPARE(m_messages->texts().last(), QStringLiteral("Silinecek Cari Kart Bulunamadı..."));
+}
+
+void TestAccountCards::movingStopsAtBothEnds()
+{
+    typeInto(0, QStringLiteral("A1"));
+    key(Qt::Key_Return);
+    field(0)->setFocus();
+    key(Qt::Key_PageUp); // already the first card: the cursor goes before it, nothing changes
+    QCOMPARE(field(0)->Text(), QStringLiteral("A1"));
+    QCOMPARE(field(1)->Text(), QStringLiteral("Ahmet"));
+    key(Qt::Key_PageDown); // from before the first card back onto it
+    QCOMPARE(field(0)->Text(), QStringLiteral("A1"));
+    key(Qt::Key_PageDown);
+    QCOMPARE(field(0)->Text(), QStringLiteral("B1"));
+    QCOMPARE(field(1)->Text(), QStringLiteral("Birinci"));
+    key(Qt::Key_End, Qt::ControlModifier);
+    QCOMPARE(field(0)->Text(), QStringLiteral("C1"));
+    key(Qt::Key_PageDown); // past the last card: nothing shown changes
+    QCOMPARE(field(0)->Text(), QStringLiteral("C1"));
+    QCOMPARE(field(1)->Text(), QStringLiteral("Çağlar"));
+    key(Qt::Key_PageUp); // back on the last card
+    QCOMPARE(field(0)->Text(), QStringLiteral("C1"));
+    key(Qt::Key_Home, Qt::ControlModifier);
+    QCOMPARE(field(0)->Text(), QStringLiteral("A1"));
+    key(Qt::Key_Escape);
+    QTRY_VERIFY(!m_screen);
+}
+
+QTEST_MAIN(TestAccountCards)
+#include "tst_accountcards.moc"

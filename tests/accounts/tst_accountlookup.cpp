@@ -1,0 +1,173 @@
+#include "accounts/AccountLookup.h"
+#include "controls/DcList.h"
+#include "controls/XText.h"
+#include "testsupport/Books.h"
+#include "testsupport/MessageLog.h"
+#include "testsupport/TestDataFolder.h"
+#include "testsupport/Typing.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QtTest>
+
+class TestAccountLookup : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void opensWithEveryCardByTitle();
+    void searches_data();
+    void searches();
+    void chosenRowIsReturned();
+    void cancelReturnsNothing_data();
+    void cancelReturnsNothing();
+    void acceptingWithoutARowReturnsNothing();
+    void lookupButtonFillsTheField();
+
+private:
+    XText *field(AccountLookup &lookup, int index) const
+    {
+        return lookup.findChild<XText *>(QStringLiteral("xtext1_%1").arg(index));
+    }
+    DcList *list(AccountLookup &lookup) const { return lookup.findChild<DcList *>(QStringLiteral("dclist1")); }
+    QStringList codes(AccountLookup &lookup) const;
+
+    std::unique_ptr<MessageLog> m_messages;
+    std::unique_ptr<TestDataFolder> m_folder;
+};
+
+void TestAccountLookup::init()
+{
+    m_messages = std::make_unique<MessageLog>();
+    m_folder = std::make_unique<TestDataFolder>();
+    QVERIFY(m_folder->isReady());
+    QVERIFY(AddCard(QStringLiteral("M002"), QStringLiteral("Ahmet Kaya")));
+    QVERIFY(AddCard(QStringLiteral("M001"), QStringLiteral("Zeynep Ak")));
+    QVERIFY(AddCard(QStringLiteral("A01"), QStringLiteral("Ahenk Ltd.")));
+    QVERIFY(AddCard(QStringLiteral("P1"), QStringLiteral("İsmail Işık")));
+    QVERIFY(AddCard(QStringLiteral("Q1"), QStringLiteral("O'Neil %_ Ltd.")));
+    QVERIFY(AddCard(QStringLiteral("I9"), QStringLiteral("Irmak Su")));
+}
+
+void TestAccountLookup::cleanup()
+{
+    m_folder.reset();
+    m_messages.reset();
+    SetSelectedAccountCode(QString());
+}
+
+QStringList TestAccountLookup::codes(AccountLookup &lookup) const
+{
+    QStringList found;
+    for (int row = 0; row < list(lookup)->ListCount(); ++row)
+        found << list(lookup)->Caption(row, 0);
+    return found;
+}
+
+void TestAccountLookup::opensWithEveryCardByTitle()
+{
+    AccountLookup lookup;
+    QCOMPARE(lookup.windowTitle(), QStringLiteral("Hesap Rehberi"));
+    QCOMPARE(codes(lookup), QStringList({ "A01", "M002", "I9", "P1", "Q1", "M001" }));
+}
+
+void TestAccountLookup::searches_data()
+{
+    QTest::addColumn<int>("searchField");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QStringList>("found");
+    QTest::newRow("code M, by code") << 0 << "M" << QStringList { "M001", "M002" };
+    QTest::newRow("code in lower case") << 0 << "m00" << QStringList { "M001", "M002" };
+    QTest::newRow("title Ah, by title") << 1 << "Ah" << QStringList { "A01", "M002" };
+    QTest::newRow("i finds İ") << 1 << "ism" << QStringList { "P1" };
+    QTest::newRow("ı finds I") << 1 << "ırm" << QStringList { "I9" };
+    QTest::newRow("i does not find I") << 1 << "irm" << QStringList {};
+    QTest::newRow("quote, percent and underscore are literal") << 1 << "O'Neil %_" << QStringList { "Q1" };
+    QTest::newRow("percent is no wildcard") << 1 << "%" << QStringList {};
+}
+
+void TestAccountLookup::searches()
+{
+    QFETCH(int, searchField);
+    QFETCH(QString, typed);
+    QFETCH(QStringList, found);
+    AccountLookup lookup;
+    lookup.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&lookup));
+    field(lookup, searchField)->setFocus();
+    typeKeys(field(lookup, searchField)->textBox(), typed);
+    QCOMPARE(codes(lookup), found);
+    QVERIFY(m_messages->entries().isEmpty());
+}
+
+void TestAccountLookup::chosenRowIsReturned()
+{
+    AccountLookup lookup;
+    lookup.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&lookup));
+    field(lookup, 0)->setFocus();
+    typeKeys(field(lookup, 0)->textBox(), QStringLiteral("M"));
+    QTest::keyClick(field(lookup, 0)->textBox(), Qt::Key_Return); // leaves the code field for the list
+    QTableView *view = list(lookup)->view();
+    QTRY_VERIFY(view->hasFocus());
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(lookup.result(), int(QDialog::Accepted));
+    QCOMPARE(SelectedAccountCode(), QStringLiteral("M002"));
+}
+
+void TestAccountLookup::cancelReturnsNothing_data()
+{
+    QTest::addColumn<bool>("escape");
+    QTest::newRow("Esc in the list") << true;
+    QTest::newRow("Vazgeç") << false;
+}
+
+void TestAccountLookup::cancelReturnsNothing()
+{
+    QFETCH(bool, escape);
+    AccountLookup lookup;
+    lookup.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&lookup));
+    list(lookup)->ChngSat(1);
+    list(lookup)->view()->setFocus();
+    if (escape)
+        QTest::keyClick(list(lookup)->view(), Qt::Key_Escape);
+    else
+        lookup.findChild<QPushButton *>(QStringLiteral("vazgec"))->click();
+    QCOMPARE(lookup.result(), int(QDialog::Rejected));
+    QCOMPARE(SelectedAccountCode(), QString());
+}
+
+void TestAccountLookup::acceptingWithoutARowReturnsNothing()
+{
+    SetSelectedAccountCode(QStringLiteral("ESKİ"));
+    AccountLookup lookup;
+    lookup.findChild<QPushButton *>(QStringLiteral("tamam"))->click();
+    QCOMPARE(SelectedAccountCode(), QString());
+}
+
+void TestAccountLookup::lookupButtonFillsTheField()
+{
+    QWidget screen;
+    auto *code = new XText(&screen);
+    AttachAccountLookup(code);
+    QVERIFY(code->Button());
+    screen.show();
+    QTimer::singleShot(0, this, [this] {
+        auto *lookup = qobject_cast<AccountLookup *>(QApplication::activeModalWidget());
+        QVERIFY(lookup);
+        list(*lookup)->ChngSat(0);
+        lookup->choose();
+    });
+    code->setFocus();
+    QTest::keyClick(code->textBox(), Qt::Key_F2);
+    QCOMPARE(code->Text(), QStringLiteral("A01"));
+    QCOMPARE(SelectedAccountCode(), QString()); // emptied after use
+}
+
+QTEST_MAIN(TestAccountLookup)
+#include "tst_accountlookup.moc"
