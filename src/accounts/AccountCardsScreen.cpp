@@ -107,7 +107,7 @@ AccountCardsScreen::AccountCardsScreen(QWidget *parent)
             field->xTextBicim(XText::NumberFormat, layout.limit, Qt::AlignLeft, true, 0, 3);
         else
             field->xTextBicim(XText::TextFormat, layout.limit, Qt::AlignLeft, index == 0, 0, 0);
-        field->setMinimumWidth(isText(index) ? (layout.limit > 15 ? 330 : 150) : 150);
+        field->setMinimumWidth(index == typeField ? 60 : isText(index) && layout.limit > 15 ? 330 : 150);
         QLabel *label = labelFor(QString::fromUtf16(layout.label), field);
         if (index == 3)
             label->clear(); // the second address line goes without a caption
