@@ -146,6 +146,13 @@ AccountCardsScreen::AccountCardsScreen(QWidget *parent)
         m_fields[7], m_fields[8], m_fields[9], m_fields[10], m_fields[11] });
 }
 
+// The fields lose the focus while the screen is taken down; their signals must not reach it then.
+AccountCardsScreen::~AccountCardsScreen()
+{
+    for (XText *field : m_fields)
+        field->disconnect(this);
+}
+
 void AccountCardsScreen::addButton(int index, QStyle::StandardPixmap picture, const QString &themeIcon,
     const QString &text, void (AccountCardsScreen::*action)())
 {

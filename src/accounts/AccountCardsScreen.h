@@ -19,6 +19,7 @@ class AccountCardsScreen : public Screen
     Q_OBJECT
 public:
     explicit AccountCardsScreen(QWidget *parent = nullptr);
+    ~AccountCardsScreen() override;
 
     void save();
     void remove();

@@ -112,6 +112,14 @@ AccountLookup::AccountLookup(QWidget *parent)
     search();
 }
 
+// The fields lose the focus while the dialog is taken down; their signals must not reach it then.
+AccountLookup::~AccountLookup()
+{
+    m_code->disconnect(this);
+    m_title->disconnect(this);
+    m_list->disconnect(this);
+}
+
 void AccountLookup::search()
 {
     const bool byCode = !m_code->Text().isEmpty();

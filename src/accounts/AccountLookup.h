@@ -12,6 +12,7 @@ class AccountLookup : public QDialog
     Q_OBJECT
 public:
     explicit AccountLookup(QWidget *parent = nullptr);
+    ~AccountLookup() override;
 
     void search();
     // "Tamam" / Enter in the list: the current row's code becomes the selected code.
