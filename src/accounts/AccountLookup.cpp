@@ -5,6 +5,7 @@
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "core/OpenInMain.h"
+#include "core/Screen.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -22,15 +23,6 @@ QString &selectedCode()
 {
     static QString code;
     return code;
-}
-
-QLabel *labelFor(const QString &caption, XText *field, QWidget *parent)
-{
-    auto *label = new QLabel(caption, parent);
-    label->setBuddy(field);
-    field->setAccessibleName(caption);
-    field->textBox()->setAccessibleName(caption);
-    return label;
 }
 
 } // namespace
@@ -74,9 +66,9 @@ AccountLookup::AccountLookup(QWidget *parent)
     cancelButton->setAutoDefault(false);
 
     auto *fields = new QGridLayout;
-    fields->addWidget(labelFor(QStringLiteral("Kod"), m_code, this), 0, 0);
+    fields->addWidget(LabelFor(QStringLiteral("Kod"), m_code, this), 0, 0);
     fields->addWidget(m_code, 0, 1);
-    fields->addWidget(labelFor(QStringLiteral("Ünvan"), m_title, this), 1, 0);
+    fields->addWidget(LabelFor(QStringLiteral("Ünvan"), m_title, this), 1, 0);
     fields->addWidget(m_title, 1, 1);
     fields->setColumnStretch(1, 1);
     auto *buttons = new QHBoxLayout;

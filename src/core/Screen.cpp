@@ -37,9 +37,9 @@ void Screen::setFocusChain(std::initializer_list<QWidget *> fields)
         m_firstField->setFocus();
 }
 
-QLabel *Screen::labelFor(const QString &caption, QWidget *field)
+QLabel *LabelFor(const QString &caption, QWidget *field, QWidget *parent)
 {
-    auto *label = new QLabel(caption, this);
+    auto *label = new QLabel(caption, parent);
     label->setBuddy(field);
     QString name = caption;
     name.remove(u'&');

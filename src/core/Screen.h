@@ -7,6 +7,10 @@
 
 class QLabel;
 
+// A label for a field; its text (without the accelerator mark) becomes the field's accessible
+// name, and that of the widget inside that takes the field's focus.
+QLabel *LabelFor(const QString &caption, QWidget *field, QWidget *parent);
+
 // What every screen shares: its form name and caption, the main window's icon, the order in
 // which Enter and Up walk its fields, and Esc in the first field to close it.
 class Screen : public QWidget
@@ -21,9 +25,7 @@ public:
 protected:
     // The fields in the order Enter/Down and Up move through them; the first takes the focus.
     void setFocusChain(std::initializer_list<QWidget *> fields);
-    // A label for a field; its text (without the accelerator mark) becomes the field's
-    // accessible name.
-    QLabel *labelFor(const QString &caption, QWidget *field);
+    QLabel *labelFor(const QString &caption, QWidget *field) { return LabelFor(caption, field, this); }
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
