@@ -1,0 +1,29 @@
+#pragma once
+
+#include "money/Currency.h"
+
+// The amounts of a self-employment receipt. Rates are percentages; the fund levy is a
+// percentage of the withholding, not of the gross fee.
+struct ReceiptAmounts
+{
+    Currency gross;
+    Currency stopaj;
+    Currency fon;
+    Currency net;
+    Currency kdv;
+};
+
+struct ReceiptRates
+{
+    float stopaj = 0;
+    float fon = 0;
+    float kdv = 0;
+};
+
+// From a typed gross fee: withholding and levy only where ticked, VAT always.
+ReceiptAmounts FromGross(Currency gross, const ReceiptRates &rates, bool withhold, bool levy);
+// From a typed net fee: the gross is net × 100 / (100 − (stopaj + fon)), whatever is ticked,
+// and not rounded; the net keeps the typed value.
+ReceiptAmounts FromNet(Currency net, const ReceiptRates &rates, bool withhold, bool levy);
+// A percentage of an amount, rounded as amounts are.
+Currency PercentOf(Currency amount, float rate);

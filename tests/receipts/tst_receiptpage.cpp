@@ -1,0 +1,79 @@
+#include "money/AmountConventions.h"
+#include "receipts/ReceiptPage.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(LayoutRow)
+
+class TestReceiptPage : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { amountConventions() = AmountConventions(); }
+    void emptyLayoutIsBlank();
+    void placing_data();
+    void placing();
+
+private:
+    static ReceiptValues receipt();
+};
+
+ReceiptValues TestReceiptPage::receipt()
+{
+    ReceiptValues v;
+    v.number = QStringLiteral("501");
+    v.date = QStringLiteral("16.11.2026");
+    v.title = QStringLiteral("Şükrü Işık");
+    v.taxOffice = QStringLiteral("Çankaya");
+    v.taxNumber = QStringLiteral("123");
+    v.gross = Currency::fromString(u"1234567.89");
+    v.total = Currency::fromUnits(960);
+    v.stopajRate = 20.0f;
+    v.kdvRate = 18.5f;
+    return v;
+}
+
+void TestReceiptPage::emptyLayoutIsBlank()
+{
+    const QStringList page = ComposeReceiptPage(receipt(), {});
+    QCOMPARE(page.size(), 33);
+    for (const QString &line : page)
+        QCOMPARE(line, QString(80, u' '));
+}
+
+void TestReceiptPage::placing_data()
+{
+    QTest::addColumn<LayoutRow>("row");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<QString>("text"); // the line, right blanks trimmed
+    QTest::newRow("name at column 5") << LayoutRow { 0, 20, 5, 3, {} } << 3 << "    Şükrü Işık";
+    QTest::newRow("amount too wide keeps its end") << LayoutRow { 7, 8, 1, 1, {} } << 1 << "4,567.89";
+    QTest::newRow("right-aligned rate") << LayoutRow { 16, 6, 1, 2, {} } << 2 << "  18.5";
+    QTest::newRow("column 75, width 10") << LayoutRow { 6, 10, 75, 4, {} } << 4 << QString(74, u' ') + "Açıkla";
+    QTest::newRow("tax office and number") << LayoutRow { 5, 20, 1, 5, {} } << 5 << "Çankaya - 123";
+    QTest::newRow("total in words") << LayoutRow { 13, 40, 1, 33, QStringLiteral(" Yalnız ") } << 33
+                                    << "Yalnızdokuzyüzaltmış YTL";
+    QTest::newRow("free text as stored") << LayoutRow { 19, 10, 1, 6, QStringLiteral(" Sayın ") } << 6 << " Sayın";
+    QTest::newRow("line 0 is off the page") << LayoutRow { 0, 10, 1, 0, {} } << 0 << "";
+    QTest::newRow("line 34 is off the page") << LayoutRow { 0, 10, 1, 34, {} } << 0 << "";
+    QTest::newRow("column 0 cannot be placed") << LayoutRow { 0, 10, 0, 3, {} } << 0 << "";
+    QTest::newRow("position rounds halves to even") << LayoutRow { 17, 4.5f, 2.5f, 7.5f, {} } << 8 << " 501";
+}
+
+void TestReceiptPage::placing()
+{
+    QFETCH(LayoutRow, row);
+    QFETCH(int, line);
+    QFETCH(QString, text);
+    ReceiptValues values = receipt();
+    values.description = QStringLiteral("Açıklama metni");
+    const QStringList page = ComposeReceiptPage(values, { row });
+    for (int i = 0; i < 33; ++i) {
+        QCOMPARE(page[i].size(), 80);
+        const QString trimmed = QString(page[i]).remove(QRegularExpression(QStringLiteral(" +$")));
+        QCOMPARE(trimmed, i + 1 == line ? text : QString());
+    }
+}
+
+QTEST_APPLESS_MAIN(TestReceiptPage)
+#include "tst_receiptpage.moc"

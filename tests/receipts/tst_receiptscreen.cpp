@@ -1,0 +1,262 @@
+#include "controls/XText.h"
+#include "core/AccessLayer.h"
+#include "core/Clock.h"
+#include "core/DataFiles.h"
+#include "core/MainWindow.h"
+#include "core/Parameters.h"
+#include "core/ProgramScreens.h"
+#include "money/AmountConventions.h"
+#include "printing/PrintSettings.h"
+#include "printing/PrinterSetupDialog.h"
+#include "printing/RawText.h"
+#include "receipts/ReceiptScreen.h"
+#include "testsupport/MessageLog.h"
+#include "testsupport/PrivateSpooler.h"
+#include "testsupport/QueryTexts.h"
+#include "testsupport/TestDataFolder.h"
+#include "testsupport/Typing.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+
+namespace {
+
+void addLayoutRow(int no, float uzun, float sol, float ust, const QString &txt = QString())
+{
+    Recordset &duzen = *dataFiles().duzen;
+    RsAddNew(duzen);
+    FieldWrite(duzen, QStringLiteral("no"), no);
+    FieldWrite(duzen, QStringLiteral("uzun"), uzun);
+    FieldWrite(duzen, QStringLiteral("sol"), sol);
+    FieldWrite(duzen, QStringLiteral("ust"), ust);
+    FieldWrite(duzen, QStringLiteral("txt"), txt);
+    RsUpdate(duzen);
+}
+
+// Presses a button of the printer settings dialog as soon as it is shown.
+void answerPrinterSetup(const char *button, QObject *context)
+{
+    QTimer::singleShot(0, context, [button] {
+        auto *dialog = qobject_cast<PrinterSetupDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->findChild<QPushButton *>(QString::fromLatin1(button))->click();
+    });
+}
+
+} // namespace
+
+class TestReceiptScreen : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+    void fullReceiptIsPostedAndPrinted();
+    void zeroTotalSavesNothing();
+    void graphicOutputIsRefused();
+
+private:
+    XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
+    void typeInto(int index, const QString &keys);
+
+    std::unique_ptr<PrivateSpooler> m_spooler;
+    std::unique_ptr<MessageLog> m_messages;
+    std::unique_ptr<TestDataFolder> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+    QPointer<ReceiptScreen> m_screen;
+};
+
+void TestReceiptScreen::initTestCase()
+{
+    m_spooler = std::make_unique<PrivateSpooler>();
+    QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
+    QVERIFY(m_spooler->addQueue(QStringLiteral("makbuz")));
+}
+
+void TestReceiptScreen::cleanupTestCase()
+{
+    m_spooler.reset();
+}
+
+void TestReceiptScreen::init()
+{
+    SetToday(QDate(2026, 11, 16));
+    ResetPrintSettings();
+    m_messages = std::make_unique<MessageLog>();
+    m_folder = std::make_unique<TestDataFolder>();
+    QVERIFY(m_folder->isReady());
+    GenelSingSet(QStringLiteral("stopaj"), 20);
+    GenelSingSet(QStringLiteral("fon"), 10);
+    GenelSingSet(QStringLiteral("kdv"), 18);
+    GenelIntegSet(QStringLiteral("tlonda"), 2);
+    GenelTxtSet(QStringLiteral("lastack"), QStringLiteral("Önceki açıklama"));
+    LoadParameters();
+    Recordset &cards = *dataFiles().carkart;
+    RsAddNew(cards);
+    FieldWrite(cards, QStringLiteral("kod"), QStringLiteral("K1"));
+    FieldWrite(cards, QStringLiteral("unv"), QStringLiteral("Müşteri A.Ş."));
+    FieldWrite(cards, QStringLiteral("adr1"), QStringLiteral("Kızılay"));
+    FieldWrite(cards, QStringLiteral("adr2"), QStringLiteral("Ankara"));
+    FieldWrite(cards, QStringLiteral("vd"), QStringLiteral("Çankaya"));
+    FieldWrite(cards, QStringLiteral("vn"), QStringLiteral("1234567890"));
+    FieldWrite(cards, QStringLiteral("ucret"), QVariant::fromValue(Currency::fromUnits(1000)));
+    QVERIFY(RsUpdate(cards));
+    m_window = std::make_unique<MainWindow>();
+    AddProgramScreens(*m_window);
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->menuItem(QStringLiteral("mnumkb"))->trigger();
+    m_screen = m_window->findChild<ReceiptScreen *>(QStringLiteral("Form1"));
+    QVERIFY(m_screen);
+}
+
+void TestReceiptScreen::cleanup()
+{
+    m_window.reset();
+    m_folder.reset();
+    m_messages.reset();
+    SetToday(QDate());
+}
+
+void TestReceiptScreen::typeInto(int index, const QString &keys)
+{
+    field(index)->setFocus();
+    QCoreApplication::processEvents(); // the field selects its text on entry
+    typeKeys(field(index)->textBox(), keys);
+}
+
+void TestReceiptScreen::fullReceiptIsPostedAndPrinted()
+{
+    const struct
+    {
+        int no;
+        float uzun, sol, ust;
+        const char *txt;
+    } layout[] = {
+        { 0, 30, 5, 2, "" },
+        { 1, 30, 5, 3, "" },
+        { 2, 30, 5, 4, "" },
+        { 3, 15, 5, 5, "" },
+        { 4, 12, 25, 5, "" },
+        { 5, 30, 40, 6, "" },
+        { 6, 40, 5, 8, "" },
+        { 7, 8, 60, 8, "" },
+        { 8, 12, 60, 9, "" },
+        { 9, 12, 60, 10, "" },
+        { 10, 12, 60, 11, "" },
+        { 11, 12, 60, 12, "" },
+        { 12, 5, 60, 14, "" },
+        { 13, 60, 5, 16, "Yalnız " },
+        { 14, 3, 50, 9, "" },
+        { 15, 3, 50, 10, "" },
+        { 16, 3, 50, 12, "" },
+        { 17, 8, 70, 1, "" },
+        { 18, 10, 70, 2, "" },
+        { 19, 10, 75, 20, "Teşekkürler" },
+        { 0, 10, 1, 0, "" },
+        { 6, 10, 1, 34, "" },
+    };
+    for (const auto &row : layout)
+        addLayoutRow(row.no, row.uzun, row.sol, row.ust, QString::fromUtf8(row.txt));
+
+    QCOMPARE(field(0)->Text(), QStringLiteral("1"));
+    QCOMPARE(field(8)->Text(), QStringLiteral("Önceki açıklama"));
+    typeInto(0, QStringLiteral("500"));
+    typeInto(2, QStringLiteral("K1"));
+    QTest::keyClick(field(2)->textBox(), Qt::Key_Return); // leaving the code fills the account in
+    QCOMPARE(field(3)->Text(), QStringLiteral("Müşteri A.Ş."));
+    QCOMPARE(field(9)->Text(), QStringLiteral("1,000.00"));
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->click();
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->click();
+    QCOMPARE(m_screen->findChild<QLabel *>(QStringLiteral("toplam"))->text(), QStringLiteral("960.00"));
+    typeInto(8, QStringLiteral("Danışmanlık"));
+
+    const QByteArray before = m_spooler->received();
+    answerPrinterSetup("Command4", this);
+    QTest::keyClick(field(8)->textBox(), Qt::Key_F5);
+
+    QStringList page;
+    for (int i = 0; i < 33; ++i)
+        page << QString(80, u' ');
+    const auto put
+        = [&page](int line, int column, const QString &text) { page[line - 1].replace(column - 1, text.size(), text); };
+    put(1, 70, QStringLiteral("500     "));
+    put(2, 5, QStringLiteral("Müşteri A.Ş."));
+    put(2, 70, QStringLiteral("16.11.2026"));
+    put(3, 5, QStringLiteral("Kızılay"));
+    put(4, 5, QStringLiteral("Ankara"));
+    put(5, 5, QStringLiteral("Çankaya"));
+    put(5, 25, QStringLiteral("1234567890"));
+    put(6, 40, QStringLiteral("Çankaya - 1234567890"));
+    put(8, 5, QStringLiteral("Danışmanlık"));
+    put(8, 60, QStringLiteral("1,000.00"));
+    put(9, 50, QStringLiteral(" 20"));
+    put(9, 60, QStringLiteral("      200.00"));
+    put(10, 50, QStringLiteral(" 10"));
+    put(10, 60, QStringLiteral("       20.00"));
+    put(11, 60, QStringLiteral("      780.00"));
+    put(12, 50, QStringLiteral(" 18"));
+    put(12, 60, QStringLiteral("      180.00"));
+    put(14, 60, QStringLiteral("60.00"));
+    put(16, 5, QStringLiteral("Yalnızdokuzyüzaltmış YTL"));
+    put(20, 75, QStringLiteral("Teşekk"));
+    QByteArray expected;
+    for (const QString &line : page) {
+        QCOMPARE(line.size(), 80);
+        expected += RawField(line, false, false, false) + "\r\n";
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()), expected, 20000);
+    QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("S.M. Makbuzu")));
+
+    QCOMPARE(
+        QueryTexts(QStringLiteral("SELECT kod || '|' || tarih || '|' || evrak || '|' || ack || '|' || islem || '|' || "
+                                  "ba || '|' || tutar AS r FROM carhar"),
+            QStringLiteral("r")),
+        QStringList { QStringLiteral("K1|46342|500|Danışmanlık|2|0|9600000") });
+    QCOMPARE(QueryTexts(
+                 QStringLiteral("SELECT sira || '|' || tarih || '|' || islem || '|' || evrak || '|' || cari || '|' || "
+                                "ack || '|' || brut || '|' || stopaj || '|' || fon || '|' || kdv AS r FROM defter"),
+                 QStringLiteral("r")),
+        QStringList { QStringLiteral("0|46342|0|500|K1|Müşteri A.Ş.|10000000|2000000|200000|1800000") });
+    QCOMPARE(GenelCurrenGet(QStringLiteral("serino")), Currency::fromUnits(500));
+    QCOMPARE(GenelTxtGet(QStringLiteral("lastack")), QStringLiteral("Danışmanlık"));
+    QCOMPARE(field(0)->Text(), QStringLiteral("501"));
+    QCOMPARE(field(8)->Text(), QStringLiteral("Danışmanlık"));
+    QCOMPARE(field(2)->Text(), QString());
+    QTRY_COMPARE(m_window->focusWidget(), field(2)->textBox());
+    QCOMPARE(m_screen->total(), Currency());
+    QVERIFY(m_messages->entries().isEmpty());
+}
+
+void TestReceiptScreen::zeroTotalSavesNothing()
+{
+    typeInto(2, QStringLiteral("YOK"));
+    QTest::keyClick(field(2)->textBox(), Qt::Key_F5);
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "0" });
+    QCOMPARE(GenelCurrenGet(QStringLiteral("serino")), Currency());
+    QVERIFY(m_messages->entries().isEmpty());
+}
+
+void TestReceiptScreen::graphicOutputIsRefused()
+{
+    QTimer::singleShot(0, this, [] {
+        auto *dialog = qobject_cast<PrinterSetupDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->findChild<QRadioButton *>(QStringLiteral("Option1_1"))->click();
+        dialog->findChild<QPushButton *>(QStringLiteral("Command4"))->click();
+    });
+    field(1)->setFocus();
+    QTest::keyClick(field(1)->textBox(), Qt::Key_F8);
+    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Dot-Matrix Yazıcıdan Alınabilir..") });
+    QCOMPARE(printSettings().lines, 33);
+}
+
+QTEST_MAIN(TestReceiptScreen)
+#include "tst_receiptscreen.moc"
