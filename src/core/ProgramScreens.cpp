@@ -3,11 +3,13 @@
 #include "accounts/AccountCardsScreen.h"
 #include "core/MainWindow.h"
 #include "core/SettingsScreen.h"
+#include "receipts/DepositScreen.h"
 #include "receipts/ReceiptScreen.h"
 
 void AddProgramScreens(MainWindow &window)
 {
     window.addScreen(QStringLiteral("mnucarkart"), [] { return new AccountCardsScreen; });
     window.addScreen(QStringLiteral("mnumkb"), [] { return new ReceiptScreen; });
+    window.addScreen(QStringLiteral("mnuemanet"), [] { return new DepositScreen; });
     window.addScreen(QStringLiteral("mnuayarlar"), [] { return new SettingsScreen; });
 }

@@ -15,8 +15,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-ReceiptFormScreen::ReceiptFormScreen(const QString &formName, const QString &caption, int descriptionLength,
-                                     QWidget *parent)
+ReceiptFormScreen::ReceiptFormScreen(
+    const QString &formName, const QString &caption, int descriptionLength, QWidget *parent)
     : Screen(formName, caption, parent)
     , m_grid(new QGridLayout)
 {
@@ -88,7 +88,7 @@ void ReceiptFormScreen::finishLayout(const std::vector<XText *> &focusOrder)
             setTabOrder(previous, each);
         previous = each;
     }
-    setFocusChain({focusOrder.front()});
+    setFocusChain({ focusOrder.front() });
 }
 
 void ReceiptFormScreen::resetFields(Currency last)
@@ -121,7 +121,7 @@ void ReceiptFormScreen::fillFromAccount()
     if (!CariExists(field(Code)->Text()))
         return;
     Recordset &cards = *dataFiles().carkart;
-    const char16_t *columns[] = {u"unv", u"adr1", u"adr2", u"vd", u"vn"};
+    const char16_t *columns[] = { u"unv", u"adr1", u"adr2", u"vd", u"vn" };
     for (int i = 0; i < 5; ++i)
         field(Title + i)->setText(FieldRead(cards, QString::fromUtf16(columns[i])).toString());
     accountFilled();

@@ -35,7 +35,7 @@ protected:
     // A new receipt: the next number after `last`, today, every other field empty and zero.
     void resetFields(Currency last);
     // The card's name, address and tax data are in fields 3 to 7; the card cursor stands on it.
-    virtual void accountFilled() {}
+    virtual void accountFilled() { }
     // The focus to the code field once the window has it back (after a dialog).
     void focusCodeField();
     // The data of a field as a date.

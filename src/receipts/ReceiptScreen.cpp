@@ -26,7 +26,7 @@ QString rateText(float rate)
 ReceiptRates rates()
 {
     const ParameterSet &set = parameters();
-    return ReceiptRates{set.stopaj, set.fon, set.kdv};
+    return ReceiptRates { set.stopaj, set.fon, set.kdv };
 }
 
 } // namespace
@@ -42,7 +42,7 @@ ReceiptScreen::ReceiptScreen(QWidget *parent)
     addAmountField(QStringLiteral("Fon"), 3);
     addAmountField(QStringLiteral("Net Ücret"), 3);
     addAmountField(QStringLiteral("K.D.V."), 3);
-    for (int computed : {Stopaj, Fon}) {
+    for (int computed : { Stopaj, Fon }) {
         field(computed)->setLocked(true);
         field(computed)->setFocusPolicy(Qt::NoFocus);
     }
@@ -76,8 +76,8 @@ ReceiptScreen::ReceiptScreen(QWidget *parent)
     connect(m_levy, &QCheckBox::clicked, this, &ReceiptScreen::grossChanged);
 
     reset();
-    finishLayout({field(Number), field(Date), field(Code), field(Title), field(Address1), field(Address2),
-                  field(TaxOffice), field(TaxNumber), field(Description), field(Gross), field(Net), field(Kdv)});
+    finishLayout({ field(Number), field(Date), field(Code), field(Title), field(Address1), field(Address2),
+        field(TaxOffice), field(TaxNumber), field(Description), field(Gross), field(Net), field(Kdv) });
 }
 
 void ReceiptScreen::reset()

@@ -9,6 +9,7 @@
 #include "printing/PrintSettings.h"
 #include "printing/PrinterSetupDialog.h"
 #include "printing/RawText.h"
+#include "receipts/DepositScreen.h"
 #include "receipts/ReceiptScreen.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/PrivateSpooler.h"
@@ -19,8 +20,10 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -60,10 +63,21 @@ private slots:
     void fullReceiptIsPostedAndPrinted();
     void zeroTotalSavesNothing();
     void graphicOutputIsRefused();
+    void depositIsPostedAsACredit();
+    void depositFormOnTheDotMatrixPrinter();
+    void depositFormAsPdf();
 
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
-    void typeInto(int index, const QString &keys);
+    void typeInto(int index, const QString &keys) { typeIn(m_screen, index, keys); }
+    static void typeIn(QWidget *screen, int index, const QString &keys);
+    DepositScreen *openDeposit();
+    XText *depositField(int index) const
+    {
+        return m_screenOfDeposit->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index));
+    }
+    void fillDeposit();
+    QPointer<QWidget> m_screenOfDeposit;
 
     std::unique_ptr<PrivateSpooler> m_spooler;
     std::unique_ptr<MessageLog> m_messages;
@@ -125,11 +139,12 @@ void TestReceiptScreen::cleanup()
     SetToday(QDate());
 }
 
-void TestReceiptScreen::typeInto(int index, const QString &keys)
+void TestReceiptScreen::typeIn(QWidget *screen, int index, const QString &keys)
 {
-    field(index)->setFocus();
+    XText *target = screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index));
+    target->setFocus();
     QCoreApplication::processEvents(); // the field selects its text on entry
-    typeKeys(field(index)->textBox(), keys);
+    typeKeys(target->textBox(), keys);
 }
 
 void TestReceiptScreen::fullReceiptIsPostedAndPrinted()
@@ -256,6 +271,108 @@ void TestReceiptScreen::graphicOutputIsRefused()
     QTest::keyClick(field(1)->textBox(), Qt::Key_F8);
     QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Dot-Matrix Yazıcıdan Alınabilir..") });
     QCOMPARE(printSettings().lines, 33);
+}
+
+DepositScreen *TestReceiptScreen::openDeposit()
+{
+    m_window->menuItem(QStringLiteral("mnuemanet"))->trigger();
+    auto *deposit = m_window->findChild<DepositScreen *>(QStringLiteral("Form6"));
+    m_screenOfDeposit = deposit;
+    return deposit;
+}
+
+void TestReceiptScreen::fillDeposit()
+{
+    typeIn(m_screenOfDeposit, 0, QStringLiteral("120"));
+    typeIn(m_screenOfDeposit, 2, QStringLiteral("K1"));
+    QTest::keyClick(depositField(2)->textBox(), Qt::Key_Return);
+    typeIn(m_screenOfDeposit, 8, QStringLiteral("Dava masrafı"));
+    typeIn(m_screenOfDeposit, 9, QStringLiteral("2500"));
+}
+
+void TestReceiptScreen::depositIsPostedAsACredit()
+{
+    QVERIFY(openDeposit());
+    QCOMPARE(depositField(0)->Text(), QStringLiteral("1"));
+    fillDeposit();
+    QCOMPARE(depositField(3)->Text(), QStringLiteral("Müşteri A.Ş."));
+    QTest::keyClick(depositField(9)->textBox(), Qt::Key_F5);
+    QCOMPARE(
+        QueryTexts(QStringLiteral("SELECT kod || '|' || tarih || '|' || evrak || '|' || ack || '|' || islem || '|' || "
+                                  "ba || '|' || tutar AS r FROM carhar"),
+            QStringLiteral("r")),
+        QStringList { QStringLiteral("K1|46342|120|Dava masrafı|3|1|25000000") });
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM defter"), QStringLiteral("n")), QStringList { "0" });
+    QCOMPARE(GenelCurrenGet(QStringLiteral("emanet")), Currency::fromUnits(120));
+    QCOMPARE(depositField(0)->Text(), QStringLiteral("121"));
+    QCOMPARE(depositField(9)->Text(), QString());
+    QVERIFY(m_messages->entries().isEmpty());
+}
+
+void TestReceiptScreen::depositFormOnTheDotMatrixPrinter()
+{
+    QVERIFY(openDeposit());
+    fillDeposit();
+    printSettings().dotMatrix = true;
+    const QByteArray before = m_spooler->received();
+    answerPrinterSetup("Command4", this);
+    QTest::keyClick(depositField(9)->textBox(), Qt::Key_F8);
+
+    const auto plain = [](const QString &text) { return RawField(text, false, false, false); };
+    const auto bold = [](const QString &text) { return RawField(text, true, false, false); };
+    const auto left = [](const QString &text, int width) { return (text + QString(width, u' ')).left(width); };
+    const auto right = [](const QString &text, int width) { return (QString(width, u' ') + text).right(width); };
+    const QByteArray end = "\r\n";
+    const QByteArray rule = plain(QString(4, u' ')) + plain(QString(40, u'_')) + plain(QStringLiteral(" "))
+        + plain(QString(15, u'_')) + end;
+    QByteArray expected = plain(QStringLiteral(" ")) + end + plain(QStringLiteral(" ")) + end;
+    const QString title = QStringLiteral("EMANET ALINDI MAKBUZU");
+    const int pad = int(80 - title.size()) / 2;
+    expected += bold(QString(pad, u' ') + title + QString(pad, u' ')) + end;
+    expected += plain(QStringLiteral(" ")) + end;
+    const QStringList labels
+        = { "Tarih :", "Makbuz No :", "Müşteri No :", "Ünvan :", "Adres :", "       ", "Vergi No :" };
+    const QStringList values
+        = { "16.11.2026", "120", "K1", "Müşteri A.Ş.", "Kızılay", "Ankara", "Çankaya - 1234567890" };
+    const int widths[] = { 15, 15, 15, 50, 50, 50, 50 };
+    for (int i = 0; i < labels.size(); ++i)
+        expected += plain(right(labels[i], 15)) + plain(left(values[i], widths[i])) + end;
+    expected += plain(QStringLiteral(" ")) + end;
+    expected += rule;
+    expected += plain(QString(4, u' ')) + bold(left(QStringLiteral("AÇIKLAMA"), 40)) + plain(QStringLiteral(" "))
+        + bold(left(QStringLiteral("TUTAR"), 15)) + end;
+    expected += rule;
+    expected += plain(QString(4, u' ')) + plain(left(QStringLiteral("Dava masrafı"), 40)) + plain(QStringLiteral(" "))
+        + plain(right(QStringLiteral("2,500.00"), 15)) + end;
+    expected += rule;
+    expected += plain(left(QStringLiteral("Yukarıda Tutarı Yazılı Bedel EMANETTEN Alınmıştır.."), 80)) + end;
+    for (int line = 19; line <= 33; ++line)
+        expected += plain(QStringLiteral(" ")) + end;
+    QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()), expected, 20000);
+    QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("EMANET ALINDI MAKBUZU")));
+}
+
+void TestReceiptScreen::depositFormAsPdf()
+{
+    QVERIFY(openDeposit());
+    fillDeposit();
+    QTemporaryDir dir;
+    QTimer::singleShot(0, this, [&dir] {
+        auto *dialog = qobject_cast<PrinterSetupDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->findChild<QRadioButton *>(QStringLiteral("Option1_2"))->click();
+        dialog->findChild<QLineEdit *>(QStringLiteral("Text2"))->setText(dir.filePath(QStringLiteral("emanet.pdf")));
+        dialog->findChild<QPushButton *>(QStringLiteral("Command4"))->click();
+    });
+    QTest::keyClick(depositField(9)->textBox(), Qt::Key_F8);
+    QProcess text;
+    text.start(QStringLiteral("pdftotext"),
+        { QStringLiteral("-layout"), dir.filePath(QStringLiteral("emanet.pdf")), QStringLiteral("-") });
+    QVERIFY(text.waitForFinished(20000));
+    const QString page = QString::fromUtf8(text.readAllStandardOutput());
+    for (const char *expected : { "EMANET ALINDI MAKBUZU", "Müşteri A.Ş.", "AÇIKLAMA", "Dava masrafı", "2,500.00",
+             "Yukarıda Tutarı Yazılı Bedel EMANETTEN Alınmıştır.." })
+        QVERIFY2(page.contains(QString::fromUtf8(expected)), qPrintable(page));
 }
 
 QTEST_MAIN(TestReceiptScreen)
