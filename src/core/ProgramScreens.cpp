@@ -4,6 +4,7 @@
 #include "core/MainWindow.h"
 #include "core/SettingsScreen.h"
 #include "receipts/DepositScreen.h"
+#include "receipts/LayoutDesignerScreen.h"
 #include "receipts/ReceiptScreen.h"
 
 void AddProgramScreens(MainWindow &window)
@@ -11,5 +12,6 @@ void AddProgramScreens(MainWindow &window)
     window.addScreen(QStringLiteral("mnucarkart"), [] { return new AccountCardsScreen; });
     window.addScreen(QStringLiteral("mnumkb"), [] { return new ReceiptScreen; });
     window.addScreen(QStringLiteral("mnuemanet"), [] { return new DepositScreen; });
+    window.addScreen(QStringLiteral("mnudiz"), [] { return new LayoutDesignerScreen; });
     window.addScreen(QStringLiteral("mnuayarlar"), [] { return new SettingsScreen; });
 }

@@ -70,6 +70,17 @@ QString itemText(const ReceiptValues &v, const LayoutRow &row, bool *right)
 
 } // namespace
 
+const QStringList &ReceiptItemNames()
+{
+    static const QStringList names = { QStringLiteral("Ünvan"), QStringLiteral("Adres 1"), QStringLiteral("Adres 2"),
+        QStringLiteral("V.Dairesi"), QStringLiteral("V.Hesap"), QStringLiteral("V.Daire+Hesap"),
+        QStringLiteral("Açıklama"), QStringLiteral("Brüt Ücret"), QStringLiteral("Stopaj"), QStringLiteral("Fon"),
+        QStringLiteral("Net Ücret"), QStringLiteral("Kdv"), QStringLiteral("Toplam"), QStringLiteral("Yazi ile Toplam"),
+        QStringLiteral("Stopaj Oran"), QStringLiteral("Fon Oran"), QStringLiteral("Kdv Oran"),
+        QStringLiteral("Makbuz No"), QStringLiteral("Tarih"), QStringLiteral("Serbest Açıklama") };
+    return names;
+}
+
 QStringList ComposeReceiptPage(const ReceiptValues &values, const std::vector<LayoutRow> &layout)
 {
     QStringList page;
@@ -94,16 +105,16 @@ QStringList ComposeReceiptPage(const ReceiptValues &values, const std::vector<La
 
 std::vector<LayoutRow> ReadLayout()
 {
+    // A query, not the shared duzen cursor: a seek the designer missed must not hide the layout.
     std::vector<LayoutRow> rows;
-    Recordset &duzen = *dataFiles().duzen;
-    if (!RsFirst(duzen))
+    std::unique_ptr<Recordset> duzen;
+    if (!QueryOpen(*dataFiles().db, duzen, QStringLiteral("SELECT no, uzun, sol, ust, txt FROM duzen ORDER BY sira")))
         return rows;
-    while (!RsEof(duzen)) {
-        rows.push_back(LayoutRow { FieldRead(duzen, QStringLiteral("no")).toInt(),
-            FieldRead(duzen, QStringLiteral("uzun")).toFloat(), FieldRead(duzen, QStringLiteral("sol")).toFloat(),
-            FieldRead(duzen, QStringLiteral("ust")).toFloat(), FieldRead(duzen, QStringLiteral("txt")).toString() });
-        RsNext(duzen);
-    }
+    do
+        rows.push_back(LayoutRow { FieldRead(*duzen, QStringLiteral("no")).toInt(),
+            FieldRead(*duzen, QStringLiteral("uzun")).toFloat(), FieldRead(*duzen, QStringLiteral("sol")).toFloat(),
+            FieldRead(*duzen, QStringLiteral("ust")).toFloat(), FieldRead(*duzen, QStringLiteral("txt")).toString() });
+    while (RsNext(*duzen));
     return rows;
 }
 

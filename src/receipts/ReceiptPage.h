@@ -31,6 +31,9 @@ struct LayoutRow
     QString txt;
 };
 
+// The names of the twenty items, by item number, as the layout designer shows them.
+const QStringList &ReceiptItemNames();
+
 constexpr int ReceiptLines = 33;
 constexpr int ReceiptColumns = 80;
 

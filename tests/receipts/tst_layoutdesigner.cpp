@@ -1,0 +1,136 @@
+#include "controls/XText.h"
+#include "core/MainWindow.h"
+#include "core/ProgramScreens.h"
+#include "receipts/LayoutDesignerScreen.h"
+#include "receipts/ReceiptPage.h"
+#include "testsupport/MessageLog.h"
+#include "testsupport/QueryTexts.h"
+#include "testsupport/TestDataFolder.h"
+#include "testsupport/Typing.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QtTest>
+
+class TestLayoutDesigner : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void newRowTakesTheNextNumber();
+    void pickingARowShowsIt();
+    void deleteAsksFirst();
+
+private:
+    XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
+    QStringList entries() const;
+    void addRow(int item, const QString &width, const QString &column, const QString &line, const QString &text);
+
+    std::unique_ptr<MessageLog> m_messages;
+    std::unique_ptr<TestDataFolder> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+    QPointer<LayoutDesignerScreen> m_screen;
+};
+
+void TestLayoutDesigner::init()
+{
+    m_messages = std::make_unique<MessageLog>();
+    m_folder = std::make_unique<TestDataFolder>();
+    QVERIFY(m_folder->isReady());
+    m_window = std::make_unique<MainWindow>();
+    AddProgramScreens(*m_window);
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->menuItem(QStringLiteral("mnudiz"))->trigger();
+    m_screen = m_window->findChild<LayoutDesignerScreen *>(QStringLiteral("Form8"));
+    QVERIFY(m_screen);
+}
+
+void TestLayoutDesigner::cleanup()
+{
+    m_window.reset();
+    m_folder.reset();
+    m_messages.reset();
+}
+
+QStringList TestLayoutDesigner::entries() const
+{
+    QStringList texts;
+    auto *list = m_screen->findChild<QListWidget *>(QStringLiteral("List1"));
+    for (int i = 0; i < list->count(); ++i)
+        texts << list->item(i)->text();
+    return texts;
+}
+
+void TestLayoutDesigner::addRow(
+    int item, const QString &width, const QString &column, const QString &line, const QString &text)
+{
+    const QString values[] = { width, column, line, text };
+    for (int i = 0; i < 4; ++i) {
+        field(i + 1)->setFocus(); // leaving the number field first, as the focus order goes
+        if (i == 0)
+            m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(item);
+        QCoreApplication::processEvents();
+        typeKeys(field(i + 1)->textBox(), values[i]);
+    }
+    m_screen->findChild<QPushButton *>(QStringLiteral("ekle"))->click();
+}
+
+void TestLayoutDesigner::newRowTakesTheNextNumber()
+{
+    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Serbest Meslek Makbuz Dizaynı"));
+    QCOMPARE(m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->count(), 20);
+    field(0)->setFocus();
+    typeKeys(field(0)->textBox(), QStringLiteral("7"));
+    addRow(0, QStringLiteral("30"), QStringLiteral("5"), QStringLiteral("2"), QStringLiteral("isim"));
+    addRow(19, QStringLiteral("10"), QStringLiteral("75"), QStringLiteral("0"), QStringLiteral("Teşekkürler"));
+    QCOMPARE(entries(), QStringList({ "0001 - Ünvan - isim", "0002 - Teşekkürler" }));
+    QCOMPARE(QueryTexts(
+                 QStringLiteral("SELECT sira || '|' || no || '|' || uzun || '|' || sol || '|' || ust AS r FROM duzen"),
+                 QStringLiteral("r")),
+        QStringList({ "1|0|30.0|5.0|2.0", "2|19|10.0|75.0|0.0" }));
+    QCOMPARE(field(0)->Value().toInt(), 0);
+    const std::vector<LayoutRow> rows = ReadLayout();
+    QCOMPARE(rows.size(), size_t(2));
+    QCOMPARE(rows[1].txt, QStringLiteral("Teşekkürler"));
+}
+
+void TestLayoutDesigner::pickingARowShowsIt()
+{
+    addRow(7, QStringLiteral("12"), QStringLiteral("60"), QStringLiteral("8"), QString());
+    auto *list = m_screen->findChild<QListWidget *>(QStringLiteral("List1"));
+    list->scrollToItem(list->item(0));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    QCOMPARE(field(0)->Value().toInt(), 1);
+    QCOMPARE(m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->currentText(), QStringLiteral("Brüt Ücret"));
+    QCOMPARE(field(2)->Text(), QStringLiteral("60"));
+    field(3)->setFocus();
+    QCoreApplication::processEvents();
+    typeKeys(field(3)->textBox(), QStringLiteral("9"));
+    m_screen->findChild<QPushButton *>(QStringLiteral("ekle"))->click(); // changes row 1
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT sira || '|' || ust AS r FROM duzen"), QStringLiteral("r")),
+        QStringList { "1|9.0" });
+}
+
+void TestLayoutDesigner::deleteAsksFirst()
+{
+    addRow(1, QStringLiteral("20"), QStringLiteral("5"), QStringLiteral("3"), QString());
+    field(0)->setValue(1);
+    m_messages->answerNext(false);
+    m_screen->findChild<QPushButton *>(QStringLiteral("sil"))->click();
+    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Kayıt Silinecek ?") });
+    QCOMPARE(entries().size(), 1);
+    m_messages->answerNext(true);
+    m_screen->findChild<QPushButton *>(QStringLiteral("sil"))->click();
+    QCOMPARE(entries(), QStringList());
+    field(0)->setValue(5);
+    m_screen->findChild<QPushButton *>(QStringLiteral("sil"))->click(); // no such row: nothing asked
+    QCOMPARE(m_messages->entries().size(), 2);
+}
+
+QTEST_MAIN(TestLayoutDesigner)
+#include "tst_layoutdesigner.moc"
