@@ -1,11 +1,7 @@
 #include "receipts/DepositScreen.h"
 
 #include "controls/XText.h"
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
-#include "core/Message.h"
 #include "core/Parameters.h"
-#include "core/ShrinkEffect.h"
 #include "money/FormatAmount.h"
 #include "printing/PrintSettings.h"
 #include "printing/PrinterSetupDialog.h"
@@ -35,19 +31,7 @@ void DepositScreen::save()
 {
     parameters().emanet = field(Number)->amount();
     GenelCurrenSet(QStringLiteral("emanet"), parameters().emanet);
-    Recordset &carhar = *dataFiles().carhar;
-    RsAddNew(carhar);
-    FieldWrite(carhar, QStringLiteral("kod"), field(Code)->Text());
-    FieldWrite(carhar, QStringLiteral("tarih"), receiptDate());
-    FieldWrite(carhar, QStringLiteral("evrak"), field(Number)->Text());
-    FieldWrite(carhar, QStringLiteral("ack"), field(Description)->Text());
-    FieldWrite(carhar, QStringLiteral("islem"), 3);
-    FieldWrite(carhar, QStringLiteral("ba"), 1);
-    FieldWrite(carhar, QStringLiteral("tutar"), QVariant::fromValue(field(Amount)->amount()));
-    if (RsUpdate(carhar))
-        ShrinkEffect(true);
-    else
-        Message::exclamation(QStringLiteral("Kayıt Cari Hareketlere Kaydedilemedi.."));
+    postToAccount(3, 1, field(Amount)->amount());
     reset();
     focusCodeField();
 }

@@ -5,6 +5,8 @@
 #include "core/AccessLayer.h"
 #include "core/Clock.h"
 #include "core/DataFiles.h"
+#include "core/Message.h"
+#include "core/ShrinkEffect.h"
 #include "money/AmountConventions.h"
 #include "money/DayNumber.h"
 
@@ -135,4 +137,21 @@ void ReceiptFormScreen::focusCodeField()
 QDate ReceiptFormScreen::receiptDate() const
 {
     return DateFromDayNumber(field(Date)->Value().toLongLong());
+}
+
+void ReceiptFormScreen::postToAccount(int islem, int ba, Currency amount)
+{
+    Recordset &carhar = *dataFiles().carhar;
+    RsAddNew(carhar);
+    FieldWrite(carhar, QStringLiteral("kod"), field(Code)->Text());
+    FieldWrite(carhar, QStringLiteral("tarih"), receiptDate());
+    FieldWrite(carhar, QStringLiteral("evrak"), field(Number)->Text());
+    FieldWrite(carhar, QStringLiteral("ack"), field(Description)->Text());
+    FieldWrite(carhar, QStringLiteral("islem"), islem);
+    FieldWrite(carhar, QStringLiteral("ba"), ba);
+    FieldWrite(carhar, QStringLiteral("tutar"), QVariant::fromValue(amount));
+    if (RsUpdate(carhar))
+        ShrinkEffect(true);
+    else
+        Message::exclamation(QStringLiteral("Kayıt Cari Hareketlere Kaydedilemedi.."));
 }

@@ -38,8 +38,11 @@ protected:
     virtual void accountFilled() { }
     // The focus to the code field once the window has it back (after a dialog).
     void focusCodeField();
-    // The data of a field as a date.
+    // The receipt's date.
     QDate receiptDate() const;
+    // The receipt's row in the account's transactions: code, date, number and description from
+    // the fields; a failure is shown, not returned.
+    void postToAccount(int islem, int ba, Currency amount);
 
 private:
     XText *addField(const QString &label, int format, double limit);

@@ -149,19 +149,7 @@ void ReceiptScreen::save()
 
 void ReceiptScreen::post()
 {
-    Recordset &carhar = *dataFiles().carhar;
-    RsAddNew(carhar);
-    FieldWrite(carhar, QStringLiteral("kod"), field(Code)->Text());
-    FieldWrite(carhar, QStringLiteral("tarih"), receiptDate());
-    FieldWrite(carhar, QStringLiteral("evrak"), field(Number)->Text());
-    FieldWrite(carhar, QStringLiteral("ack"), field(Description)->Text());
-    FieldWrite(carhar, QStringLiteral("islem"), 2);
-    FieldWrite(carhar, QStringLiteral("ba"), 0);
-    FieldWrite(carhar, QStringLiteral("tutar"), QVariant::fromValue(m_total));
-    if (RsUpdate(carhar))
-        ShrinkEffect(true);
-    else
-        Message::exclamation(QStringLiteral("Kayıt Cari Hareketlere Kaydedilemedi.."));
+    postToAccount(2, 0, m_total);
 
     Recordset &defter = *dataFiles().defter;
     RsAddNew(defter);
