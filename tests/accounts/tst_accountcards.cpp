@@ -4,10 +4,10 @@
 #include "core/DataFiles.h"
 #include "core/MainWindow.h"
 #include "core/Parameters.h"
-#include "core/ProgramScreens.h"
 #include "money/AmountConventions.h"
 #include "testsupport/Books.h"
 #include "testsupport/MessageLog.h"
+#include "testsupport/ProgramWindow.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/TestDataFolder.h"
 #include "testsupport/Typing.h"
@@ -55,13 +55,8 @@ void TestAccountCards::init()
     QVERIFY(AddCard(QStringLiteral("B1"), QStringLiteral("Birinci")));
     QVERIFY(AddCard(QStringLiteral("C1"), QStringLiteral("Çağlar")));
     QVERIFY(AddCard(QStringLiteral("A1"), QStringLiteral("Ahmet")));
-    m_window = std::make_unique<MainWindow>();
-    AddProgramScreens(*m_window);
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    m_window->menuItem(QStringLiteral("mnucarkart"))->trigger();
-    m_screen = m_window->findChild<AccountCardsScreen *>(QStringLiteral("Form3"));
+    m_window = ShowProgramWindow();
+    m_screen = OpenFromMenu<AccountCardsScreen>(*m_window, "mnucarkart", "Form3");
     QVERIFY(m_screen);
 }
 

@@ -3,11 +3,11 @@
 #include "core/DataFiles.h"
 #include "core/MainWindow.h"
 #include "core/Parameters.h"
-#include "core/ProgramScreens.h"
 #include "core/SettingsScreen.h"
 #include "money/AmountConventions.h"
 #include "money/FormatAmount.h"
 #include "testsupport/MessageLog.h"
+#include "testsupport/ProgramWindow.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/TestDataFolder.h"
 #include "testsupport/Typing.h"
@@ -59,13 +59,8 @@ void TestSettingsScreen::init()
     m_folder = std::make_unique<TestDataFolder>();
     QVERIFY(m_folder->isReady());
     LoadParameters();
-    m_window = std::make_unique<MainWindow>();
-    AddProgramScreens(*m_window);
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    m_window->menuItem(QStringLiteral("mnuayarlar"))->trigger();
-    m_screen = m_window->findChild<SettingsScreen *>(QStringLiteral("Form2"));
+    m_window = ShowProgramWindow();
+    m_screen = OpenFromMenu<SettingsScreen>(*m_window, "mnuayarlar", "Form2");
     QVERIFY(m_screen);
 }
 

@@ -1,9 +1,9 @@
 #include "controls/XText.h"
 #include "core/MainWindow.h"
-#include "core/ProgramScreens.h"
 #include "receipts/LayoutDesignerScreen.h"
 #include "receipts/ReceiptPage.h"
 #include "testsupport/MessageLog.h"
+#include "testsupport/ProgramWindow.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/TestDataFolder.h"
 #include "testsupport/Typing.h"
@@ -40,13 +40,8 @@ void TestLayoutDesigner::init()
     m_messages = std::make_unique<MessageLog>();
     m_folder = std::make_unique<TestDataFolder>();
     QVERIFY(m_folder->isReady());
-    m_window = std::make_unique<MainWindow>();
-    AddProgramScreens(*m_window);
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    m_window->menuItem(QStringLiteral("mnudiz"))->trigger();
-    m_screen = m_window->findChild<LayoutDesignerScreen *>(QStringLiteral("Form8"));
+    m_window = ShowProgramWindow();
+    m_screen = OpenFromMenu<LayoutDesignerScreen>(*m_window, "mnudiz", "Form8");
     QVERIFY(m_screen);
 }
 

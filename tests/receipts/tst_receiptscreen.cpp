@@ -4,7 +4,6 @@
 #include "core/DataFiles.h"
 #include "core/MainWindow.h"
 #include "core/Parameters.h"
-#include "core/ProgramScreens.h"
 #include "money/AmountConventions.h"
 #include "printing/PrintSettings.h"
 #include "printing/PrinterSetupDialog.h"
@@ -13,6 +12,7 @@
 #include "receipts/ReceiptScreen.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/PrivateSpooler.h"
+#include "testsupport/ProgramWindow.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/TestDataFolder.h"
 #include "testsupport/Typing.h"
@@ -121,13 +121,8 @@ void TestReceiptScreen::init()
     FieldWrite(cards, QStringLiteral("vn"), QStringLiteral("1234567890"));
     FieldWrite(cards, QStringLiteral("ucret"), QVariant::fromValue(Currency::fromUnits(1000)));
     QVERIFY(RsUpdate(cards));
-    m_window = std::make_unique<MainWindow>();
-    AddProgramScreens(*m_window);
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    m_window->menuItem(QStringLiteral("mnumkb"))->trigger();
-    m_screen = m_window->findChild<ReceiptScreen *>(QStringLiteral("Form1"));
+    m_window = ShowProgramWindow();
+    m_screen = OpenFromMenu<ReceiptScreen>(*m_window, "mnumkb", "Form1");
     QVERIFY(m_screen);
 }
 
