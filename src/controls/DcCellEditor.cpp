@@ -1,17 +1,9 @@
 #include "controls/DcCellEditor.h"
 
+#include "controls/EntryRules.h"
+
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLocale>
-
-namespace {
-
-double numberOf(const QString &entry)
-{
-    return QLocale::c().toDouble(entry.endsWith(u'.') ? entry + u'0' : entry.isEmpty() ? QStringLiteral("0") : entry);
-}
-
-} // namespace
 
 DcCellEditor::DcCellEditor(QWidget *parent)
     : QLineEdit(parent)
@@ -70,7 +62,7 @@ bool DcCellEditor::numberCharacter(QChar c, bool backspace)
     if (backspace) {
         entry.chop(1);
     } else if (c.isDigit()) {
-        if (numberOf(entry + c) <= m_column.maxValue)
+        if (EntryValue(entry + c) <= m_column.maxValue)
             entry += c;
         else
             QApplication::beep();
@@ -91,20 +83,15 @@ bool DcCellEditor::dateCharacter(QChar c, bool backspace)
 {
     if (!backspace && !c.isDigit())
         return true;
-    const QString current = text();
     if (backspace) {
-        if (current.size() == 3 && current.indexOf(u'.', 1) >= 0)
-            setText(current.left(2));
-        else if (current.size() == 6 && current.indexOf(u'.', 4) >= 0)
-            setText(current.left(5));
+        const QString prepared = DateBeforeBackspace(text());
+        if (prepared != text())
+            setText(prepared); // the caret stays where it is otherwise
         return false;
     }
     if (hasSelectedText())
         del();
-    if (text().size() == 2 && !text().contains(u'.'))
-        setText(text() + u'.');
-    if (text().size() == 5 && text().indexOf(u'.', 4) < 0)
-        setText(text() + u'.');
+    setText(DateBeforeDigit(text()));
     end(false);
     return false;
 }

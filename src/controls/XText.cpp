@@ -1,5 +1,6 @@
 #include "controls/XText.h"
 
+#include "controls/EntryRules.h"
 #include "controls/QuickFont.h"
 #include "money/DayNumber.h"
 #include "money/FormatAmount.h"
@@ -22,11 +23,6 @@ const QString dateFormat = QStringLiteral("dd.MM.yyyy");
 QDate dateOf(const QString &text)
 {
     return QDate::fromString(text, dateFormat);
-}
-
-double numberOf(const QString &entry)
-{
-    return QLocale::c().toDouble(entry.endsWith(u'.') ? entry + u'0' : entry);
 }
 
 } // namespace
@@ -253,7 +249,7 @@ void XText::setValue(const QVariant &value)
     }
     case NumberFormat:
         m_buffer = value.userType() == qMetaTypeId<Currency>() ? value.value<Currency>().toString() : value.toString();
-        m_value = numberOf(m_buffer);
+        m_value = EntryValue(m_buffer);
         showNumber();
         break;
     case CounterFormat:
@@ -266,7 +262,7 @@ void XText::setValue(const QVariant &value)
 
 Currency XText::amount() const
 {
-    return Currency::fromString(m_buffer.endsWith(u'.') ? m_buffer + u'0' : m_buffer);
+    return Currency::fromString(m_buffer); // "12." reads as 12, "" and "." as 0
 }
 
 void XText::showNumber()
@@ -406,25 +402,14 @@ void XText::numberCharacter(QChar c, bool backspace)
         m_fresh = false;
         m_point = false;
     }
-    if (backspace) {
+    if (backspace)
         m_buffer.chop(1);
-    } else if (c.isDigit()) {
-        if (numberOf(m_buffer + c) <= m_maxLenght)
-            m_buffer += c;
-        else
-            QApplication::beep();
-    } else if (c == u'.' || c == u',') {
-        if (m_onda != 0 && !m_point) {
-            m_buffer += u'.';
-            m_point = true;
-        }
-    } else if (c == u'+') {
-        m_buffer += QStringLiteral("000");
-    } else {
+    else if (!TypeIntoNumber(m_buffer, c, m_maxLenght, m_onda, m_point))
         QApplication::beep();
-    }
+    else if (c == u'.' || c == u',')
+        m_point = m_point || m_buffer.endsWith(u'.'); // Backspace does not give the point back
     showNumber();
-    m_value = numberOf(m_buffer);
+    m_value = EntryValue(m_buffer);
     m_edit->end(false);
     changed();
 }
@@ -442,18 +427,9 @@ bool XText::dateCharacter(QChar c, bool backspace)
         return true;
     }
     const QString text = m_edit->text();
-    if (backspace) {
-        if (text.size() == 3 && text.indexOf(u'.', 1) >= 0)
-            setTextAtEnd(text.left(2));
-        else if (text.size() == 6 && text.indexOf(u'.', 4) >= 0)
-            setTextAtEnd(text.left(5));
-    } else {
-        if (text.size() == 2 && !text.contains(u'.'))
-            setTextAtEnd(text + u'.');
-        const QString completed = m_edit->text();
-        if (completed.size() == 5 && completed.indexOf(u'.', 4) < 0)
-            setTextAtEnd(completed + u'.');
-    }
+    const QString prepared = backspace ? DateBeforeBackspace(text) : DateBeforeDigit(text);
+    if (prepared != text)
+        setTextAtEnd(prepared);
     changed();
     return false;
 }
