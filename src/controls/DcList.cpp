@@ -2,6 +2,7 @@
 
 #include "controls/DcCellEditor.h"
 #include "controls/DcListModel.h"
+#include "controls/EntryRules.h"
 #include "controls/QuickFont.h"
 #include "controls/SpreadsheetExport.h"
 #include "core/Clock.h"
@@ -43,9 +44,7 @@ QString numericText(const QString &text)
         } else
             break;
     }
-    bool ok = false;
-    const double value = QLocale::c().toDouble(number.endsWith(u'.') ? number + u'0' : number, &ok);
-    return ok ? QString::number(value, 'g', 15) : QStringLiteral("0");
+    return QString::number(EntryValue(number), 'g', 15);
 }
 
 QFont headerFont()
@@ -706,9 +705,13 @@ bool DcList::editorKey(QKeyEvent *event)
 
 // Looks ----------------------------------------------------------------------------------------
 
+bool DcList::Zebra() const
+{
+    return m_model->zebra();
+}
+
 void DcList::setZebra(bool on)
 {
-    m_zebra = on;
     m_model->setZebra(on);
 }
 

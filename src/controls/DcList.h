@@ -82,7 +82,7 @@ public:
     void setOtoIncrement(bool on) { m_otoIncrement = on; }
     bool CellLock() const { return m_cellLock; }
     void setCellLock(bool on);
-    bool Zebra() const { return m_zebra; }
+    bool Zebra() const;
     void setZebra(bool on);
     bool Locked() const { return m_locked; }
     void setLocked(bool on) { m_locked = on; }
@@ -141,7 +141,6 @@ private:
     bool m_ascending = false;
     bool m_otoIncrement = false;
     bool m_cellLock = false;
-    bool m_zebra = false;
     bool m_locked = false;
     bool m_waitingForCheck = false;
     QColor m_activeText = Qt::white, m_activeBack = QColor(255, 0, 0);

@@ -48,6 +48,7 @@ public:
     void setOverlay(int row, const QStringList &values);
     void clearOverlay();
 
+    bool zebra() const { return m_zebra; }
     void setZebra(bool on);
     void setNormalColors(const QColor &text, const QColor &back);
     void setZebraColors(const QColor &text, const QColor &back);
