@@ -47,18 +47,6 @@ QString numericText(const QString &text)
     return QString::number(EntryValue(number), 'g', 15);
 }
 
-QFont headerFont()
-{
-    return QuickFont({ QStringLiteral("gridbaslikfontname"), QStringLiteral("gridbaslikfontsize"),
-        QStringLiteral("gridbaslikfontbold"), QStringLiteral("tahoma"), 10, QStringLiteral("Bold") });
-}
-
-QFont cellFont()
-{
-    return QuickFont({ QStringLiteral("griddetayfontname"), QStringLiteral("griddetayfontsize"),
-        QStringLiteral("griddetayfontbold"), QStringLiteral("courier"), 10, QStringLiteral("Bold") });
-}
-
 QFont namedFont(const QString &name, int size, bool bold)
 {
     QFont font(name);
@@ -82,17 +70,15 @@ DcList::DcList(QWidget *parent)
     m_view->setTabKeyNavigation(false);
     m_view->setWordWrap(false);
     m_view->verticalHeader()->hide();
-    m_view->horizontalHeader()->setFont(headerFont());
+    m_view->horizontalHeader()->setFont(HeaderFont());
     m_view->horizontalHeader()->setHighlightSections(false);
     m_view->horizontalHeader()->setSectionsClickable(true);
-    m_view->setFont(cellFont());
-    m_view->verticalHeader()->setDefaultSectionSize(QFontMetrics(cellFont()).height() + 2 * 2);
+    setCellFont(CellFont());
     m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_view->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
     m_editor->installEventFilter(this);
-    m_editor->setFont(cellFont());
     setFocusProxy(m_view);
 
     auto *layout = new QVBoxLayout(this);
@@ -195,7 +181,12 @@ void DcList::BaslikFont(const QString &name, int size, bool bold)
 
 void DcList::TextFont(const QString &name, int size, bool bold)
 {
-    const QFont font = namedFont(name, size, bold);
+    setCellFont(namedFont(name, size, bold));
+}
+
+// Rows are the font's height plus the row spacing of 2 above and below.
+void DcList::setCellFont(const QFont &font)
+{
     m_view->setFont(font);
     m_editor->setFont(font);
     m_view->verticalHeader()->setDefaultSectionSize(QFontMetrics(font).height() + 2 * 2);

@@ -126,6 +126,7 @@ private:
     void moveTo(int row);
     int pageRows() const;
     void applyColors();
+    void setCellFont(const QFont &font);
     int editRow() const { return qMax(m_current, 0); }
 
     QTableView *m_view;

@@ -14,3 +14,15 @@ QFont QuickFont(const QuickFontKeys &keys)
     font.setStyleHint(QFont::TypeWriter);
     return font;
 }
+
+QFont CellFont()
+{
+    return QuickFont({ QStringLiteral("griddetayfontname"), QStringLiteral("griddetayfontsize"),
+        QStringLiteral("griddetayfontbold"), QStringLiteral("courier"), 10, QStringLiteral("Bold") });
+}
+
+QFont HeaderFont()
+{
+    return QuickFont({ QStringLiteral("gridbaslikfontname"), QStringLiteral("gridbaslikfontsize"),
+        QStringLiteral("gridbaslikfontbold"), QStringLiteral("tahoma"), 10, QStringLiteral("Bold") });
+}

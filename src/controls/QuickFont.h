@@ -16,3 +16,8 @@ struct QuickFontKeys
 };
 
 QFont QuickFont(const QuickFontKeys &keys);
+
+// The font of input fields and grid cells ("griddetay…", default bold courier 10).
+QFont CellFont();
+// The font of grid headers ("gridbaslik…", default bold tahoma 10).
+QFont HeaderFont();

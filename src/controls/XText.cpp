@@ -36,8 +36,7 @@ XText::XText(QWidget *parent)
     setFocusProxy(m_edit);
     setFocusPolicy(Qt::StrongFocus);
     m_edit->setFrame(false);
-    m_edit->setFont(QuickFont({ QStringLiteral("griddetayfontname"), QStringLiteral("griddetayfontsize"),
-        QStringLiteral("griddetayfontbold"), QStringLiteral("courier"), 10, QStringLiteral("Bold") }));
+    m_edit->setFont(CellFont());
     m_edit->installEventFilter(this);
     connect(m_edit, &QLineEdit::textChanged, this, [this] {
         if (m_format == TextFormat)
