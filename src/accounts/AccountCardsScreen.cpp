@@ -2,6 +2,7 @@
 
 #include "accounts/AccountLookup.h"
 #include "accounts/BalancePanel.h"
+#include "controls/ValueLabel.h"
 #include "controls/XText.h"
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
@@ -70,7 +71,7 @@ Recordset &cards()
 
 AccountCardsScreen::AccountCardsScreen(QWidget *parent)
     : Screen(QStringLiteral("Form3"), QStringLiteral("Cari Kartlar"), parent)
-    , m_type(new QLabel(this))
+    , m_type(new ValueLabel(QStringLiteral("Cari Tip Adı"), this))
     , m_balance(new BalancePanel(this))
 {
     auto *toolbar = new QToolBar(this);
@@ -119,7 +120,6 @@ AccountCardsScreen::AccountCardsScreen(QWidget *parent)
     auto *typeRow = new QHBoxLayout;
     typeRow->addWidget(m_fields[typeField]);
     m_type->setObjectName(QStringLiteral("cariTip"));
-    m_type->setAccessibleName(QStringLiteral("Cari Tip Adı"));
     m_type->setMinimumWidth(80);
     typeRow->addWidget(m_type);
     typeRow->addWidget(new QLabel(QStringLiteral("(0:Müşteri 1:Personel 2:Diğer)"), this));
@@ -209,7 +209,7 @@ void AccountCardsScreen::display()
     m_fields[amountField]->setValue(FieldRead(cards(), column(amountField)));
     const int type = FieldRead(cards(), column(typeField)).toInt();
     m_fields[typeField]->setValue(type);
-    m_type->setText(typeName(type));
+    m_type->setValue(typeName(type));
     m_balance->showAccount(m_fields[0]->Text());
 }
 
@@ -249,7 +249,7 @@ void AccountCardsScreen::clearCard()
         m_fields[size_t(i)]->setText(QString());
     m_fields[amountField]->setValue(0);
     m_fields[typeField]->setValue(0);
-    m_type->clear();
+    m_type->setValue(QString());
     m_balance->clear();
 }
 

@@ -8,6 +8,7 @@
 
 class BalancePanel;
 class QLabel;
+class ValueLabel;
 class QToolButton;
 class XText;
 
@@ -38,7 +39,7 @@ private:
     void clearCard();
 
     std::array<XText *, 12> m_fields {};
-    QLabel *m_type;
+    ValueLabel *m_type;
     BalancePanel *m_balance;
     std::array<QToolButton *, 6> m_buttons {};
     QString m_lastKod;

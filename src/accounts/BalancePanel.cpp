@@ -1,5 +1,6 @@
 #include "accounts/BalancePanel.h"
 
+#include "controls/ValueLabel.h"
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "money/FormatAmount.h"
@@ -40,9 +41,8 @@ BalancePanel::BalancePanel(QWidget *parent)
         caption->setFont(bold);
         grid->addWidget(caption, r + 1, 0);
         for (int c = 0; c < 3; ++c) {
-            auto *amount = new QLabel(this);
+            auto *amount = new ValueLabel(rowName + u' ' + QString::fromUtf16(columns[c]), this);
             amount->setObjectName(QStringLiteral("bakiye_%1_%2").arg(r).arg(c));
-            amount->setAccessibleName(rowName + u' ' + QString::fromUtf16(columns[c]));
             amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
             amount->setFrameShape(QFrame::StyledPanel);
             amount->setMinimumWidth(120);
@@ -78,14 +78,14 @@ void BalancePanel::showAccount(const QString &code)
     };
     for (int r = 0; r < 3; ++r)
         for (int c = 0; c < 3; ++c)
-            m_amounts[r][c]->setText(FormatAmount(amounts[r][c]));
+            m_amounts[r][c]->setValue(FormatAmount(amounts[r][c]));
 }
 
 void BalancePanel::clear()
 {
     for (auto &row : m_amounts)
-        for (QLabel *amount : row)
-            amount->clear();
+        for (ValueLabel *amount : row)
+            amount->setValue(QString());
 }
 
 QString BalancePanel::amountText(int row, int column) const

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-class QLabel;
+class ValueLabel;
 
 // The nine amounts beside an account card: debit, credit and balance of the account's other
 // transactions ("Bakiye"), of its receipt postings ("Emanet"), and of both ("Toplam").
@@ -23,6 +23,6 @@ public:
 private:
     bool sums(const QString &code, bool receipts, Currency *debit, Currency *credit) const;
 
-    QLabel *m_amounts[3][3] = {};
+    ValueLabel *m_amounts[3][3] = {};
     Currency m_otherDebit, m_otherCredit, m_receiptDebit, m_receiptCredit;
 };

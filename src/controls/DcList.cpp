@@ -26,27 +26,6 @@ namespace {
 const QLocale turkish(QLocale::Turkish, QLocale::Turkey);
 const QString dateFormat = QStringLiteral("dd.MM.yyyy");
 
-// The number a text starts with, in plain decimal notation ("" and other texts: "0").
-QString numericText(const QString &text)
-{
-    QString number;
-    const QString t = text.trimmed();
-    qsizetype i = 0;
-    if (i < t.size() && (t[i] == u'-' || t[i] == u'+'))
-        number += t[i++] == u'-' ? QStringLiteral("-") : QString();
-    bool point = false;
-    for (; i < t.size(); ++i) {
-        if (t[i].isDigit())
-            number += t[i];
-        else if (t[i] == u'.' && !point) {
-            point = true;
-            number += t[i];
-        } else
-            break;
-    }
-    return QString::number(EntryValue(number), 'g', 15);
-}
-
 QFont namedFont(const QString &name, int size, bool bold)
 {
     QFont font(name);
@@ -121,7 +100,7 @@ QVariant DcList::Add(const QString &type, const QString &name, const QString &ca
 
 void DcList::Reset()
 {
-    m_model->removeColumns();
+    m_model->removeAllColumns();
     m_buffer.clear();
 }
 
@@ -249,6 +228,8 @@ void DcList::moveTo(int row)
 {
     if (row < 0 || row >= ListCount())
         return;
+    if (row != m_current)
+        dropHeldRow();
     m_current = row;
     const QModelIndex index = m_model->index(row, qMax(0, m_view->currentIndex().column()));
     m_view->setCurrentIndex(index);
@@ -289,6 +270,7 @@ void DcList::Clear()
 {
     if (m_mode == 2)
         closeEditor();
+    m_heldRow = -1;
     m_model->clearRows();
     m_current = -1;
 }
@@ -363,12 +345,13 @@ void DcList::OkUpdateData(int row)
         const DcColumn &column = m_model->columns()[size_t(c)];
         const QString value = m_buffer.value(c);
         if (column.type == u'N' || column.type == u'n')
-            values << numericText(value);
+            values << ExactNumberText(value);
         else if (column.kind() == u's')
             values << value.left(1);
         else
             values << value;
     }
+    m_heldRow = -1;
     m_model->clearOverlay();
     m_model->setRow(row, values);
 }
@@ -379,6 +362,7 @@ void DcList::OperasyonDeleteReturn(bool ok, int row)
         return;
     if (row < 0)
         row = m_current;
+    dropHeldRow();
     m_model->removeRowAt(row);
     if (m_current >= ListCount())
         m_current = ListCount() - 1;
@@ -389,11 +373,12 @@ void DcList::OnKosulReturn(bool ok, const QString &text)
 {
     if (m_mode != 2 || !m_waitingForCheck)
         return;
-    m_waitingForCheck = false;
-    if (ok)
+    if (ok) {
+        m_waitingForCheck = false;
         acceptCell(text);
-    else
+    } else {
         AlanDegisti(-101);
+    }
 }
 
 void DcList::LockedReturn(bool value)
@@ -409,6 +394,10 @@ void DcList::LockedReturn(bool value)
 
 void DcList::AlanDegisti(int alan)
 {
+    if (m_waitingForCheck) { // the screen never accepted the checked value
+        m_waitingForCheck = false;
+        setText(m_column, m_valueBeforeCheck);
+    }
     const int columns = m_model->columnCount();
     int target = alan > 100 ? m_column + 1 : alan < -100 ? m_column - 1 : alan;
     const int step = alan < -100 ? -1 : 1;
@@ -416,6 +405,7 @@ void DcList::AlanDegisti(int alan)
         target += step;
     if (target >= columns) {
         const int row = editRow();
+        m_heldRow = row; // shown as typed until the screen acknowledges it
         closeEditor();
         emit UpdateData(row);
         return;
@@ -459,9 +449,12 @@ void DcList::openEditor(const QString &typed)
         m_current = qMax(0, qMin(m_current, ListCount()));
     m_cellLock = false;
     m_editor->setCellLock(false);
-    m_buffer.clear();
-    for (int c = 0; c < m_model->columnCount(); ++c)
-        m_buffer << m_model->cell(m_current, c);
+    if (m_heldRow != m_current) {
+        dropHeldRow();
+        m_buffer.clear();
+        for (int c = 0; c < m_model->columnCount(); ++c)
+            m_buffer << m_model->cell(m_current, c);
+    }
     m_view->verticalScrollBar()->setEnabled(false);
     m_view->horizontalScrollBar()->setEnabled(false);
     m_mode = 2;
@@ -480,13 +473,24 @@ void DcList::closeEditor()
 {
     m_view->verticalScrollBar()->setEnabled(true);
     m_view->horizontalScrollBar()->setEnabled(true);
+    // The list takes the focus before the editor hides, so that it never passes to the
+    // screen's next field on the way.
+    m_view->setFocus();
     m_editor->hide();
-    m_model->clearOverlay();
+    if (m_heldRow < 0)
+        m_model->clearOverlay();
     m_waitingForCheck = false;
     m_mode = 1;
-    m_view->setFocus();
     emit ChangeEditMode(false);
     moveTo(m_current);
+}
+
+void DcList::dropHeldRow()
+{
+    if (m_heldRow < 0)
+        return;
+    m_heldRow = -1;
+    m_model->clearOverlay();
 }
 
 void DcList::placeEditor()
@@ -525,7 +529,7 @@ bool DcList::checkCell()
         return true;
     }
     if (column.isNumber()) {
-        if (column.kosul == 2 && QLocale::c().toDouble(numericText(value)) == 0) {
+        if (column.kosul == 2 && ExactNumberText(value) == u"0") {
             Message::exclamation(QStringLiteral("Bir Sayi Girmelisiniz."));
             return false;
         }
@@ -536,6 +540,34 @@ bool DcList::checkCell()
         return false;
     }
     return true;
+}
+
+// Enter or Down in the editor: the cell's checks, then the next column; a checked column waits
+// for the screen's answer, and Enter asks it again as long as none came.
+void DcList::leaveCell()
+{
+    if (!checkCell()) {
+        m_editor->setCursorPosition(0);
+        return;
+    }
+    const DcColumn &column = m_model->columns()[size_t(m_column)];
+    if (column.kosul != 6) {
+        acceptCell(m_editor->text());
+        return;
+    }
+    if (!m_waitingForCheck)
+        m_valueBeforeCheck = Text(m_column);
+    m_waitingForCheck = true;
+    setText(m_column, m_editor->text()); // the screen's handler reads the typed value
+    const int at = m_column;
+    emit OnKosulVar(at, column.name, m_editor->text());
+}
+
+// Moves the current row by a key; nothing happens (and no row change is reported) at the ends.
+void DcList::stepTo(int row)
+{
+    if (row != m_current && row >= 0 && row < ListCount())
+        ChngSat(row);
 }
 
 void DcList::acceptCell(const QString &value)
@@ -557,6 +589,7 @@ bool DcList::eventFilter(QObject *watched, QEvent *event)
             return listKey(key);
     } else if (watched == m_view && event->type() == QEvent::FocusIn && m_mode == 0) {
         m_mode = 1;
+        emit ListFocused();
     } else if (watched == m_view && event->type() == QEvent::FocusOut && m_mode == 1
         && QApplication::focusWidget() != m_editor) {
         m_mode = 0;
@@ -596,26 +629,26 @@ bool DcList::listKey(QKeyEvent *event)
         }
         break;
     case Qt::Key_Up:
-        ChngSat(qMax(0, m_current - 1));
+        stepTo(m_current - 1);
         return true;
     case Qt::Key_Down:
-        ChngSat(m_current + 1 < ListCount() ? m_current + 1 : m_current);
+        stepTo(m_current + 1);
         return true;
     case Qt::Key_PageUp:
-        ChngSat(qMax(0, m_current - pageRows()));
+        stepTo(qMax(0, m_current - pageRows()));
         return true;
     case Qt::Key_PageDown:
-        ChngSat(qMin(ListCount() - 1, m_current + pageRows()));
+        stepTo(qMin(ListCount() - 1, m_current + pageRows()));
         return true;
     case Qt::Key_Home:
         across->setValue(across->minimum());
         if (control)
-            ChngSat(0);
+            stepTo(0);
         return true;
     case Qt::Key_End:
         across->setValue(across->maximum());
         if (control)
-            ChngSat(ListCount() - 1);
+            stepTo(ListCount() - 1);
         return true;
     case Qt::Key_Left:
         across->triggerAction(control ? QAbstractSlider::SliderPageStepSub : QAbstractSlider::SliderSingleStepSub);
@@ -624,6 +657,7 @@ bool DcList::listKey(QKeyEvent *event)
         across->triggerAction(control ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderSingleStepAdd);
         return true;
     case Qt::Key_Insert:
+        dropHeldRow();
         m_model->insertEmptyRow(qMax(0, m_current));
         ChngSat(qMax(0, m_current));
         return true;
@@ -657,23 +691,16 @@ bool DcList::editorKey(QKeyEvent *event)
     switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-    case Qt::Key_Down: {
-        if (m_waitingForCheck)
-            return true;
-        if (!checkCell()) {
-            m_editor->setCursorPosition(0);
-            return true;
-        }
-        const DcColumn &column = m_model->columns()[size_t(m_column)];
-        if (column.kosul == 6) {
-            m_waitingForCheck = true;
-            emit OnKosulVar(m_column, column.name, m_editor->text());
-            return true;
-        }
-        acceptCell(m_editor->text());
+    case Qt::Key_Down:
+        leaveCell();
         return true;
-    }
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: // the editor keeps the focus until the row is done
+        return true;
     case Qt::Key_Up:
+        if (!m_cellLock)
+            AlanDegisti(-101);
+        return true;
     case Qt::Key_Escape:
         AlanDegisti(-101);
         return true;

@@ -110,6 +110,8 @@ signals:
     void OnKosulVar(int column, const QString &name, const QString &value);
     void ChangeEditMode(bool editing);
     void isLocked(int row);
+    // The list received the keyboard from outside (not back from its own editor).
+    void ListFocused();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -121,6 +123,9 @@ private:
     void closeEditor();
     void placeEditor();
     bool checkCell();
+    void leaveCell();
+    void stepTo(int row);
+    void dropHeldRow();
     void acceptCell(const QString &value);
     void headerClicked(int col);
     void moveTo(int row);
@@ -143,7 +148,9 @@ private:
     bool m_otoIncrement = false;
     bool m_cellLock = false;
     bool m_locked = false;
-    bool m_waitingForCheck = false;
+    bool m_waitingForCheck = false; // a checked value is out with the screen
+    QString m_valueBeforeCheck;
+    int m_heldRow = -1; // a completed row the screen has not acknowledged yet
     QColor m_activeText = Qt::white, m_activeBack = QColor(255, 0, 0);
     QColor m_headerText = QColor(0, 50, 0), m_headerBack = QColor(200, 255, 200);
     QColor m_background = QColor(192, 192, 192);

@@ -67,7 +67,7 @@ void DcListModel::addColumn(const DcColumn &column)
     endInsertColumns();
 }
 
-void DcListModel::removeColumns()
+void DcListModel::removeAllColumns()
 {
     beginResetModel();
     m_columns.clear();

@@ -26,7 +26,7 @@ public:
     const std::vector<DcColumn> &columns() const { return m_columns; }
     DcColumn &column(int c) { return m_columns[size_t(c)]; }
     void addColumn(const DcColumn &column);
-    void removeColumns();
+    void removeAllColumns();
     int columnByName(const QString &name) const; // -1 when unknown
 
     // A new empty row at the end; -1 when the list is full.

@@ -7,6 +7,9 @@
 
 // The value of a number entry as typed ("", "." and "12." included).
 double EntryValue(const QString &entry);
+// The number a text starts with, exactly, in plain decimal notation without needless zeros:
+// "0012.50" gives "12.5", "-.5x" gives "-0.5", "" and other texts give "0". No digit is lost.
+QString ExactNumberText(const QString &text);
 // Applies one typed character (not Backspace) to a number entry: a digit only while the value
 // stays at most `maximum`, "." or "," as the point when there are decimals and `pointTaken` is
 // false, "+" as "000". False when the character is refused (the caller beeps); a point that

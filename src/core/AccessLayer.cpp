@@ -5,6 +5,8 @@
 #include "core/Statement.h"
 #include "core/TableCursor.h"
 
+#include <sqlite3.h>
+
 bool DbOpen(std::unique_ptr<Database> &db, const QString &path)
 {
     db = Database::open(path);
@@ -80,6 +82,11 @@ bool RsUpdate(Recordset &rs)
 bool RsDelete(Recordset &rs)
 {
     return rs.remove();
+}
+
+qint64 LastAddedKey(Database &db)
+{
+    return sqlite3_last_insert_rowid(db.handle());
 }
 
 QVariant FieldRead(const Recordset &rs, const QString &fieldName)

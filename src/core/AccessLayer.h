@@ -36,6 +36,9 @@ bool RsDelete(Recordset &rs);
 QVariant FieldRead(const Recordset &rs, const QString &fieldName);
 void FieldWrite(Recordset &rs, const QString &fieldName, const QVariant &value);
 bool RsEof(const Recordset &rs);
+// The auto-number given to the row that the last successful RsUpdate after RsAddNew stored
+// (the auto-number fields are the engine's row numbers).
+qint64 LastAddedKey(Database &db);
 
 // Opens the rows of a SELECT. False for no rows (silently) and for a statement the engine
 // refuses (after "Sql Rapor Yaratılamıyor").

@@ -3,8 +3,7 @@
 #include "controls/XText.h"
 #include "core/Parameters.h"
 #include "money/FormatAmount.h"
-#include "printing/PrintSettings.h"
-#include "printing/PrinterSetupDialog.h"
+#include "printing/PrintPreset.h"
 #include "printing/Prnx.h"
 
 namespace {
@@ -38,17 +37,9 @@ void DepositScreen::save()
 
 void DepositScreen::print()
 {
-    PrintSettings &record = printSettings();
-    record.title = depositTitle;
-    record.titleHeading = record.dateHeading = record.companyHeading = true;
-    record.pageNoHeading = false;
-    record.orientation = 1;
-    record.copies = 1;
-    record.lines = 33;
-    if (!ShowPrinterSetup(this))
-        return;
+    const int kind = ChoosePrinter({ depositTitle, true, true, false, true, 33, {} }, this);
     Prnx prnx;
-    if (!prnx.OpenPrinter(record.dotMatrix ? Prnx::Raw : Prnx::Graphic, depositTitle))
+    if (kind == 0 || !prnx.OpenPrinter(kind, depositTitle))
         return;
     printForm(prnx);
     prnx.ClosePrinter();

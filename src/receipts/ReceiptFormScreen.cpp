@@ -6,6 +6,7 @@
 #include "core/Clock.h"
 #include "core/DataFiles.h"
 #include "core/Message.h"
+#include "core/Postings.h"
 #include "core/ShrinkEffect.h"
 #include "money/AmountConventions.h"
 #include "money/DayNumber.h"
@@ -141,16 +142,9 @@ QDate ReceiptFormScreen::receiptDate() const
 
 void ReceiptFormScreen::postToAccount(int islem, int ba, Currency amount)
 {
-    Recordset &carhar = *dataFiles().carhar;
-    RsAddNew(carhar);
-    FieldWrite(carhar, QStringLiteral("kod"), field(Code)->Text());
-    FieldWrite(carhar, QStringLiteral("tarih"), receiptDate());
-    FieldWrite(carhar, QStringLiteral("evrak"), field(Number)->Text());
-    FieldWrite(carhar, QStringLiteral("ack"), field(Description)->Text());
-    FieldWrite(carhar, QStringLiteral("islem"), islem);
-    FieldWrite(carhar, QStringLiteral("ba"), ba);
-    FieldWrite(carhar, QStringLiteral("tutar"), QVariant::fromValue(amount));
-    if (RsUpdate(carhar))
+    const AccountPosting posting { field(Code)->Text(), receiptDate(), islem, field(Number)->Text(),
+        field(Description)->Text(), ba, amount };
+    if (AddAccountPosting(posting) > 0)
         ShrinkEffect(true);
     else
         Message::exclamation(QStringLiteral("Kayıt Cari Hareketlere Kaydedilemedi.."));

@@ -1,14 +1,16 @@
 #include "receipts/ReceiptScreen.h"
 
+#include "controls/ValueLabel.h"
 #include "controls/XText.h"
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "core/Message.h"
 #include "core/Parameters.h"
+#include "core/Postings.h"
 #include "core/ShrinkEffect.h"
 #include "money/FormatAmount.h"
-#include "printing/PrintSettings.h"
-#include "printing/PrinterSetupDialog.h"
+#include "printing/PrintPreset.h"
+#include "printing/Prnx.h"
 #include "receipts/ReceiptCalculation.h"
 #include "receipts/ReceiptPage.h"
 
@@ -35,7 +37,7 @@ ReceiptScreen::ReceiptScreen(QWidget *parent)
     : ReceiptFormScreen(QStringLiteral("Form1"), QStringLiteral("Serbest Meslek Makbuzu"), 50, parent)
     , m_withhold(new QCheckBox(QStringLiteral("Stopaj Kesilsin"), this))
     , m_levy(new QCheckBox(QStringLiteral("Fon Kesilsin"), this))
-    , m_totalLabel(new QLabel(this))
+    , m_totalLabel(new ValueLabel(QStringLiteral("TOPLAM"), this))
 {
     addAmountField(QStringLiteral("Brüt Ücret"), 3);
     addAmountField(QStringLiteral("Stopaj"), 3);
@@ -62,7 +64,6 @@ ReceiptScreen::ReceiptScreen(QWidget *parent)
     totalCaption->setFont(bold);
     m_totalLabel->setFont(bold);
     m_totalLabel->setObjectName(QStringLiteral("toplam"));
-    m_totalLabel->setAccessibleName(QStringLiteral("TOPLAM"));
     m_totalLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_totalLabel->setMinimumWidth(150);
     m_totalLabel->setFrameShape(QFrame::StyledPanel);
@@ -86,7 +87,7 @@ void ReceiptScreen::reset()
     resetFields(parameters().serino);
     field(Description)->setText(GenelTxtGet(QStringLiteral("lastack")));
     m_total = Currency();
-    m_totalLabel->clear();
+    m_totalLabel->setValue(QString());
     m_calculating = false;
 }
 
@@ -125,7 +126,7 @@ void ReceiptScreen::updateTotal()
     if (m_calculating)
         return;
     m_total = field(Net)->amount() + field(Kdv)->amount();
-    m_totalLabel->setText(FormatAmount(m_total, 3));
+    m_totalLabel->setValue(FormatAmount(m_total, 3));
 }
 
 void ReceiptScreen::accountFilled()
@@ -151,19 +152,17 @@ void ReceiptScreen::post()
 {
     postToAccount(2, 0, m_total);
 
-    Recordset &defter = *dataFiles().defter;
-    RsAddNew(defter);
-    FieldWrite(defter, QStringLiteral("sira"), 0);
-    FieldWrite(defter, QStringLiteral("tarih"), receiptDate());
-    FieldWrite(defter, QStringLiteral("islem"), 0);
-    FieldWrite(defter, QStringLiteral("evrak"), field(Number)->Text());
-    FieldWrite(defter, QStringLiteral("cari"), field(Code)->Text());
-    FieldWrite(defter, QStringLiteral("ack"), field(Title)->Text());
-    FieldWrite(defter, QStringLiteral("brut"), QVariant::fromValue(field(Gross)->amount()));
-    FieldWrite(defter, QStringLiteral("stopaj"), QVariant::fromValue(field(Stopaj)->amount()));
-    FieldWrite(defter, QStringLiteral("fon"), QVariant::fromValue(field(Fon)->amount()));
-    FieldWrite(defter, QStringLiteral("kdv"), QVariant::fromValue(field(Kdv)->amount()));
-    if (RsUpdate(defter))
+    LedgerPosting row;
+    row.tarih = receiptDate();
+    row.islem = 0;
+    row.evrak = field(Number)->Text();
+    row.cari = field(Code)->Text();
+    row.ack = field(Title)->Text();
+    row.brut = field(Gross)->amount();
+    row.stopaj = field(Stopaj)->amount();
+    row.fon = field(Fon)->amount();
+    row.kdv = field(Kdv)->amount();
+    if (AddLedgerPosting(row) > 0)
         ShrinkEffect(true);
     else
         Message::exclamation(QStringLiteral("Kayıt Defter Hareketlere Kaydedilemedi.."));
@@ -171,16 +170,10 @@ void ReceiptScreen::post()
 
 void ReceiptScreen::print()
 {
-    PrintSettings &record = printSettings();
-    record.title = QStringLiteral("S.M. Makbuzu");
-    record.titleHeading = record.dateHeading = record.pageNoHeading = record.companyHeading = false;
-    record.orientation = 1;
-    record.copies = 1;
-    record.lines = 33;
-    record.dotMatrix = true;
-    if (!ShowPrinterSetup(this))
+    const int kind = ChoosePrinter({ QStringLiteral("S.M. Makbuzu"), false, false, false, false, 33, true }, this);
+    if (kind == 0)
         return;
-    if (!record.dotMatrix) {
+    if (kind != Prnx::Raw) {
         Message::exclamation(QStringLiteral("Dot-Matrix Yazıcıdan Alınabilir.."));
         return;
     }

@@ -4,6 +4,7 @@
 
 class QCheckBox;
 class QLabel;
+class ValueLabel;
 
 // "Serbest Meslek Makbuzu": one self-employment receipt at a time. Computes withholding, fund
 // levy, net, VAT and total as the fee is typed; F5 posts it to the account and the income
@@ -33,7 +34,7 @@ private:
 
     QCheckBox *m_withhold;
     QCheckBox *m_levy;
-    QLabel *m_totalLabel;
+    ValueLabel *m_totalLabel;
     Currency m_total;
     bool m_calculating = false;
 };

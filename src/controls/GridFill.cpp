@@ -1,0 +1,45 @@
+#include "controls/GridFill.h"
+
+#include "controls/DcList.h"
+#include "core/AccessLayer.h"
+#include "money/Currency.h"
+
+#include <QAbstractItemModel>
+#include <QDate>
+#include <QTableView>
+
+#include <vector>
+
+namespace {
+
+QString cellText(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::QDate)
+        return value.toDate().toString(QStringLiteral("dd.MM.yyyy"));
+    if (value.userType() == qMetaTypeId<Currency>())
+        return value.value<Currency>().toString();
+    return value.toString();
+}
+
+} // namespace
+
+int FillGrid(DcList &list, Recordset &records)
+{
+    std::vector<std::pair<int, QString>> columns; // grid column, query field
+    QVariant probe;
+    for (int c = 0; c < list.view()->model()->columnCount(); ++c) {
+        const QString name = list.SectionName(c).toLower();
+        if (!name.isEmpty() && records.read(name, &probe))
+            columns.emplace_back(c, name);
+    }
+    int added = 0;
+    for (; !RsEof(records); RsNext(records)) {
+        const int row = list.CreateNewCaption();
+        if (row < 0)
+            break;
+        for (const auto &[column, field] : columns)
+            list.setCaption(row, column, cellText(FieldRead(records, field)));
+        ++added;
+    }
+    return added;
+}

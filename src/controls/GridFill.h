@@ -1,0 +1,10 @@
+#pragma once
+
+class DcList;
+class Recordset;
+
+// Appends a grid row for every record of a query, from the current record on, and fills each
+// grid column whose field name the query has: dates as "dd.MM.yyyy", amounts and numbers in
+// plain decimal notation, texts as they are. Answers the number of rows added (it stops when
+// the grid is full).
+int FillGrid(DcList &list, Recordset &records);

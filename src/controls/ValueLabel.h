@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QLabel>
+
+// A read-only label that shows a value (an amount, a balance, a type). What it shows is its
+// accessible name, so that screen readers and checks read the value itself; what the value is
+// ("Bakiye Borç", "TOPLAM") is its accessible description.
+class ValueLabel : public QLabel
+{
+    Q_OBJECT
+public:
+    ValueLabel(const QString &meaning, QWidget *parent);
+
+    void setValue(const QString &text);
+    QString value() const { return text(); }
+};

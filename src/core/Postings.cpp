@@ -1,0 +1,105 @@
+#include "core/Postings.h"
+
+#include "core/AccessLayer.h"
+#include "core/DataFiles.h"
+
+namespace {
+
+const QString otoIndex = QStringLiteral("oto");
+
+void writeFields(Recordset &rs, const AccountPosting &p)
+{
+    FieldWrite(rs, QStringLiteral("kod"), p.kod);
+    FieldWrite(rs, QStringLiteral("tarih"), p.tarih);
+    FieldWrite(rs, QStringLiteral("islem"), p.islem);
+    FieldWrite(rs, QStringLiteral("evrak"), p.evrak);
+    FieldWrite(rs, QStringLiteral("ack"), p.ack);
+    FieldWrite(rs, QStringLiteral("ba"), p.ba);
+    FieldWrite(rs, QStringLiteral("tutar"), QVariant::fromValue(p.tutar));
+}
+
+void writeFields(Recordset &rs, const LedgerPosting &p)
+{
+    FieldWrite(rs, QStringLiteral("sira"), p.sira);
+    FieldWrite(rs, QStringLiteral("tarih"), p.tarih);
+    FieldWrite(rs, QStringLiteral("islem"), p.islem);
+    FieldWrite(rs, QStringLiteral("evrak"), p.evrak);
+    FieldWrite(rs, QStringLiteral("cari"), p.cari);
+    FieldWrite(rs, QStringLiteral("ack"), p.ack);
+    FieldWrite(rs, QStringLiteral("brut"), QVariant::fromValue(p.brut));
+    FieldWrite(rs, QStringLiteral("stopaj"), QVariant::fromValue(p.stopaj));
+    FieldWrite(rs, QStringLiteral("fon"), QVariant::fromValue(p.fon));
+    FieldWrite(rs, QStringLiteral("kdv"), QVariant::fromValue(p.kdv));
+}
+
+// The new row's oto is its row number in the engine, so no cursor move is needed to learn it
+// (a move to the last record fails right after a seek that found nothing).
+template <typename Posting> qint64 add(Recordset &rs, const Posting &posting)
+{
+    if (!RsAddNew(rs))
+        return 0;
+    writeFields(rs, posting);
+    return RsUpdate(rs) ? LastAddedKey(*dataFiles().db) : 0;
+}
+
+template <typename Posting> bool change(Recordset &rs, qint64 oto, const Posting &posting)
+{
+    if (oto <= 0 || !RsSeek(rs, otoIndex, oto) || !RsEdit(rs))
+        return false;
+    writeFields(rs, posting);
+    return RsUpdate(rs);
+}
+
+bool remove(Recordset &rs, qint64 oto)
+{
+    return oto > 0 && RsSeek(rs, otoIndex, oto) && RsDelete(rs);
+}
+
+template <typename Posting> qint64 store(Recordset &rs, qint64 oto, const Posting &posting)
+{
+    if (oto > 0 && RsSeek(rs, otoIndex, oto))
+        return change(rs, oto, posting) ? oto : 0;
+    return add(rs, posting);
+}
+
+} // namespace
+
+qint64 AddAccountPosting(const AccountPosting &posting)
+{
+    return add(*dataFiles().carhar, posting);
+}
+
+qint64 AddLedgerPosting(const LedgerPosting &posting)
+{
+    return add(*dataFiles().defter, posting);
+}
+
+bool ChangeAccountPosting(qint64 oto, const AccountPosting &posting)
+{
+    return change(*dataFiles().carhar, oto, posting);
+}
+
+bool ChangeLedgerPosting(qint64 oto, const LedgerPosting &posting)
+{
+    return change(*dataFiles().defter, oto, posting);
+}
+
+bool DeleteAccountPosting(qint64 oto)
+{
+    return remove(*dataFiles().carhar, oto);
+}
+
+bool DeleteLedgerPosting(qint64 oto)
+{
+    return remove(*dataFiles().defter, oto);
+}
+
+qint64 StoreAccountPosting(qint64 oto, const AccountPosting &posting)
+{
+    return store(*dataFiles().carhar, oto, posting);
+}
+
+qint64 StoreLedgerPosting(qint64 oto, const LedgerPosting &posting)
+{
+    return store(*dataFiles().defter, oto, posting);
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "money/Currency.h"
+
+#include <QDate>
+#include <QString>
+
+// Typed postings: the only place that writes account transactions (carhar) and ledger rows
+// (defter) field by field. Rows are addressed by their auto-number `oto`.
+
+// One account transaction. islem: 0 "Devir" … 9 "Diğer"; ba: 0 debit "Borç", 1 credit "Alacak".
+struct AccountPosting
+{
+    QString kod;
+    QDate tarih;
+    int islem = 0;
+    QString evrak;
+    QString ack;
+    int ba = 0;
+    Currency tutar;
+};
+
+// One row of the professional's ledger. islem: 0 income "Gelir", 1 expense "Gider".
+struct LedgerPosting
+{
+    int sira = 0;
+    QDate tarih;
+    int islem = 0;
+    QString evrak;
+    QString cari;
+    QString ack;
+    Currency brut;
+    Currency stopaj;
+    Currency fon;
+    Currency kdv;
+};
+
+// Each answers the new row's oto, or 0 when the row could not be stored.
+qint64 AddAccountPosting(const AccountPosting &posting);
+qint64 AddLedgerPosting(const LedgerPosting &posting);
+// False when no row has this oto or the engine refused the change.
+bool ChangeAccountPosting(qint64 oto, const AccountPosting &posting);
+bool ChangeLedgerPosting(qint64 oto, const LedgerPosting &posting);
+bool DeleteAccountPosting(qint64 oto);
+bool DeleteLedgerPosting(qint64 oto);
+// Stores a row: changes the row with this oto when there is one, adds it otherwise. Answers
+// the row's oto (0 on failure).
+qint64 StoreAccountPosting(qint64 oto, const AccountPosting &posting);
+qint64 StoreLedgerPosting(qint64 oto, const LedgerPosting &posting);

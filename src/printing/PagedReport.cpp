@@ -1,0 +1,142 @@
+#include "printing/PagedReport.h"
+
+#include "money/FormatAmount.h"
+#include "printing/Prnx.h"
+
+namespace {
+
+const QString gap = QStringLiteral(" ");
+
+} // namespace
+
+PagedReport::PagedReport(Prnx &prnx, ReportLayout layout, int linesPerPage)
+    : m_prnx(prnx)
+    , m_layout(std::move(layout))
+    , m_linesPerPage(linesPerPage)
+{
+    for (const ReportColumn &column : m_layout.columns)
+        if (column.summed)
+            m_totals.push_back(Currency());
+}
+
+void PagedReport::printRow(const QVariantList &cells)
+{
+    if (m_prnx.SatirSayisi() == 0)
+        pageHead();
+    printCells(cells);
+    size_t total = 0;
+    for (size_t c = 0; c < m_layout.columns.size(); ++c) {
+        if (!m_layout.columns[c].summed)
+            continue;
+        const QVariant cell = cells.value(int(c));
+        if (cell.userType() == qMetaTypeId<Currency>())
+            m_totals[total] += cell.value<Currency>();
+        ++total;
+    }
+    m_printed = true;
+    if (m_prnx.SatirSayisi() + m_layout.footRoom >= m_linesPerPage)
+        pageFoot();
+}
+
+void PagedReport::finish()
+{
+    if (m_prnx.SatirSayisi() > 0) {
+        pageFoot();
+    } else if (m_printed && m_layout.totalsOnOwnPage) {
+        pageHead();
+        pageFoot();
+    }
+}
+
+void PagedReport::pageHead()
+{
+    m_prnx.YeniSayfa();
+    if (m_layout.pageTop)
+        m_layout.pageTop(m_prnx);
+    printHeads();
+    printRules();
+    if (m_prnx.SayfaSayisi() > 1 && !m_layout.carryCaption.isEmpty())
+        printCaptionLine(m_layout.carryCaption, totalTexts());
+}
+
+void PagedReport::pageFoot()
+{
+    printRules();
+    printCaptionLine(m_layout.totalCaption, totalTexts(), m_layout.boldTotals);
+    m_prnx.SayfaBitti(true);
+}
+
+void PagedReport::printHeads()
+{
+    const auto &columns = m_layout.columns;
+    for (size_t c = 0; c < columns.size(); ++c) {
+        const bool last = c + 1 == columns.size();
+        m_prnx.Lprint(columns[c].head, columns[c].width, last, 0, true);
+        if (!last)
+            m_prnx.Lprint(gap, 1);
+    }
+}
+
+void PagedReport::printRules()
+{
+    const auto &columns = m_layout.columns;
+    for (size_t c = 0; c < columns.size(); ++c) {
+        const bool last = c + 1 == columns.size();
+        m_prnx.LinePrint(columns[c].width, false, last);
+        if (!last)
+            m_prnx.Lprint(gap, 1);
+    }
+}
+
+void PagedReport::printCells(const QVariantList &cells)
+{
+    const auto &columns = m_layout.columns;
+    for (size_t c = 0; c < columns.size(); ++c) {
+        const QVariant cell = cells.value(int(c));
+        const QString text = cell.userType() == qMetaTypeId<Currency>() ? FormatAmount(cell.value<Currency>())
+                                                                         : cell.toString();
+        const bool last = c + 1 == columns.size();
+        m_prnx.Lprint(text, columns[c].width, last, columns[c].align);
+        if (!last)
+            m_prnx.Lprint(gap, 1);
+    }
+}
+
+// The unsummed columns lead and the summed ones follow: the caption spans the leading ones
+// and the gaps between them.
+int PagedReport::captionWidth() const
+{
+    int width = -1;
+    for (const ReportColumn &column : m_layout.columns) {
+        if (column.summed)
+            break;
+        width += column.width + 1;
+    }
+    return qMax(width, 0);
+}
+
+void PagedReport::printCaptionLine(const QString &caption, const QStringList &texts, bool bold)
+{
+    m_prnx.Lprint(caption, captionWidth(), false, 1, bold);
+    int text = 0;
+    const auto &columns = m_layout.columns;
+    for (const ReportColumn &column : columns) {
+        if (!column.summed)
+            continue;
+        m_prnx.Lprint(gap, 1);
+        const bool last = text + 1 == texts.size();
+        m_prnx.Lprint(texts.value(text), column.width, last, 1, bold);
+        if (last)
+            return;
+        ++text;
+    }
+    m_prnx.Lprint(QString(), 0, true); // ends the line when there are fewer texts than columns
+}
+
+QStringList PagedReport::totalTexts() const
+{
+    QStringList texts;
+    for (Currency total : m_totals)
+        texts << FormatAmount(total);
+    return texts;
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "money/Currency.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <vector>
+
+class Prnx;
+
+// One column of a printed list: its heading, its width in print columns, its alignment
+// (0 left, 1 right, 2 centred), and whether its amounts are summed into the running totals.
+struct ReportColumn
+{
+    QString head;
+    int width = 0;
+    int align = 0;
+    bool summed = false;
+};
+
+// How a paged list looks: its columns (one blank column between neighbours), the lines a page
+// begins with, and its carry and total lines.
+struct ReportLayout
+{
+    std::vector<ReportColumn> columns;
+    // Printed after a page is begun and before the column heads (title, ranges, page number).
+    std::function<void(Prnx &)> pageTop;
+    QString carryCaption; // the first line after the heads on every page after the first
+    QString totalCaption = QStringLiteral("T O P L A M :");
+    bool boldTotals = false;
+    // A page is full when its line count + footRoom reaches the lines per page.
+    int footRoom = 6;
+    // When the last row filled a page exactly: false ends there (its footing holds the totals),
+    // true prints the final totals on a page of their own, with its head.
+    bool totalsOnOwnPage = false;
+};
+
+// Prints a list over the print engine page by page: the page head with the column heads and
+// their rules, the carry line on every page after the first, the rows, the page footing with
+// the running totals, and the final totals. The engine must be open; the caller closes it.
+class PagedReport
+{
+public:
+    PagedReport(Prnx &prnx, ReportLayout layout, int linesPerPage);
+
+    // One row: a cell per column; a Currency is printed by FormatAmount (zero as blank) and,
+    // in a summed column, added to the running totals.
+    void printRow(const QVariantList &cells);
+    // After the last row: the footing of the open page, or the final totals as the layout says.
+    void finish();
+    const std::vector<Currency> &totals() const { return m_totals; }
+
+    // Pieces for lists that print on one page of their own.
+    void printHeads();
+    void printRules();
+    // caption over the unsummed columns, then a text under each summed column.
+    void printCaptionLine(const QString &caption, const QStringList &texts, bool bold = false);
+    void printCells(const QVariantList &cells);
+
+private:
+    void pageHead();
+    void pageFoot();
+    int captionWidth() const;
+    QStringList totalTexts() const;
+
+    Prnx &m_prnx;
+    ReportLayout m_layout;
+    int m_linesPerPage;
+    std::vector<Currency> m_totals;
+    bool m_printed = false;
+};
