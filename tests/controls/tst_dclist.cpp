@@ -5,16 +5,21 @@
 #include "testsupport/MessageLog.h"
 #include "testsupport/Typing.h"
 
+#include <QAbstractItemModelTester>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QProcess>
 #include <QTableView>
 #include <QtTest>
 
 // Answers the list's events as a screen does: stores every complete row, deletes when told,
-// and checks the debit/credit column (B or A; anything else is refused).
+// and checks the debit/credit column (B or A; anything else is refused). Like a real screen it
+// may leave a checked value unanswered (a value it only reports on) or answer it later.
 class ScreenHarness : public QObject
 {
 public:
+    enum class Check { Answer, Silent, Late };
+
     explicit ScreenHarness(DcList *list)
         : m_list(list)
     {
@@ -23,15 +28,21 @@ public:
             if (acceptRows)
                 m_list->OkUpdateData(row);
         });
-        connect(list, &DcList::OnKosulVar, this, [this](int, const QString &, const QString &value) {
+        connect(list, &DcList::OnKosulVar, this, [this](int column, const QString &, const QString &value) {
+            checkedTexts << m_list->Text(column);
             const QString mark = value.trimmed().toUpper();
-            m_list->OnKosulReturn(mark == u"B" || mark == u"A", mark);
+            if (check == Check::Answer)
+                m_list->OnKosulReturn(mark == u"B" || mark == u"A", mark);
+            else if (check == Check::Late)
+                QTimer::singleShot(0, m_list, [this, mark] { m_list->OnKosulReturn(true, mark); });
         });
         connect(list, &DcList::OperasyonDelete, this, [this](int row) { deleteRequests << row; });
         connect(list, &DcList::KeyDown, this, [this](int key, int, int) { keys << key; });
     }
     int updates = 0;
     bool acceptRows = true;
+    Check check = Check::Answer;
+    QStringList checkedTexts; // Text(column) as the check handler saw it
     QList<int> deleteRequests;
     QList<int> keys;
 
@@ -66,8 +77,27 @@ private slots:
     void moveNextAppendsWithAutomaticNumbering();
     void exportWithoutASpreadsheetApplication();
     void exportOfAnEmptyList();
+    void exportWritesNumbersAndDates();
+    void unansweredCheckIsAskedAgain();
+    void lateAnswerIsTaken();
+    void checkSeesTheTypedValue();
+    void unacknowledgedRowIsKept();
+    void storedRowKeepsTheFocusInTheList();
+    void tabStaysInTheEditor();
+    void stepsStopAtTheEnds_data();
+    void stepsStopAtTheEnds();
+    void lockedCellOnlyTakesEnterDownAndEscape();
+    void storedValuesByKind_data();
+    void storedValuesByKind();
+    void longNumberIsKeptExactly();
+    void insertMakesRoomAtTheCurrentRow();
+    void focusComingAndGoing();
+    void suggestionFromAlanChanged();
 
 private:
+    void typeRow(const QStringList &cells);
+    QStringList rowTexts(int row) const;
+    QStringList sheetCells(const QString &path) const;
     void defineColumns();
     void fillRows(const QList<QStringList> &rows);
     QTableView *view() const { return m_list->view(); }
@@ -77,6 +107,7 @@ private:
     std::unique_ptr<QWidget> m_window;
     DcList *m_list = nullptr;
     std::unique_ptr<ScreenHarness> m_screen;
+    std::unique_ptr<QAbstractItemModelTester> m_modelTester;
     std::unique_ptr<MessageLog> m_messages;
 };
 
@@ -89,6 +120,8 @@ void TestDcList::init()
     m_list = new DcList(m_window.get());
     m_list->resize(700, 400);
     m_screen = std::make_unique<ScreenHarness>(m_list);
+    m_modelTester = std::make_unique<QAbstractItemModelTester>(
+        view()->model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
     defineColumns();
     m_window->show();
     QApplication::setActiveWindow(m_window.get());
@@ -98,6 +131,7 @@ void TestDcList::init()
 
 void TestDcList::cleanup()
 {
+    m_modelTester.reset();
     m_screen.reset();
     m_window.reset();
     m_messages.reset();
@@ -150,6 +184,7 @@ void TestDcList::columnsSurviveClear()
 
 void TestDcList::fullListTakesNoMoreRows()
 {
+    m_modelTester.reset(); // it checks the whole model after every row
     for (int i = 0; i < 32751; ++i)
         m_list->CreateNewCaption();
     QCOMPARE(m_list->ListCount(), 32751);
@@ -441,7 +476,32 @@ void TestDcList::exportOfAnEmptyList()
     QVERIFY(m_list->SendExel(QStringLiteral("Stopaj Listesi"), QStringLiteral("16.11.2026"), QString(), QString()));
     SetSheetOpener(nullptr);
     QVERIFY(QFile::exists(written));
-    // The sheet's cells, as "reference=value" (shared strings resolved), read with Python's zipfile.
+    const QStringList cells = sheetCells(written);
+    QCOMPARE(cells, QStringList({ "A1=Stopaj Listesi", "B1=#46342", "A4=Tarih", "B4=Açıklama", "C4=Tutar", "D4=B/A" }));
+    QFile::remove(written);
+}
+
+void TestDcList::typeRow(const QStringList &cells)
+{
+    QTest::keyClick(view(), Qt::Key_Return);
+    for (const QString &cell : cells) {
+        typeInEditor(cell);
+        enter();
+    }
+}
+
+QStringList TestDcList::rowTexts(int row) const
+{
+    QStringList texts;
+    for (int column = 0; column < view()->model()->columnCount(); ++column)
+        texts << view()->model()->index(row, column).data().toString();
+    return texts;
+}
+
+// The sheet's cells, as "reference=text" for texts and "reference=#number" for numbers and
+// dates, read with Python's zipfile.
+QStringList TestDcList::sheetCells(const QString &path) const
+{
     const QString script
         = QStringLiteral("import re,sys,zipfile\n"
                          "z=zipfile.ZipFile(sys.argv[1])\n"
@@ -449,13 +509,273 @@ void TestDcList::exportOfAnEmptyList()
                          "for a,b in re.findall(r'<c ([^>]*)>(.*?)</c>',z.read('xl/worksheets/sheet1.xml').decode()):\n"
                          "  r=re.search(r'r=\"(\\w+)\"',a).group(1); t=re.search(r't=\"(\\w+)\"',a); "
                          "v=re.search(r'<v>([^<]*)</v>',b).group(1)\n"
-                         "  print(r+'='+(s[int(v)] if t and t.group(1)=='s' else v))\n");
+                         "  print(r+'='+(s[int(v)] if t and t.group(1)=='s' else '#'+v))\n");
     QProcess python;
-    python.start(QStringLiteral("python3"), { QStringLiteral("-c"), script, written });
-    QVERIFY(python.waitForFinished(20000));
-    const QStringList cells = QString::fromUtf8(python.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(cells, QStringList({ "A1=Stopaj Listesi", "B1=46342", "A4=Tarih", "B4=Açıklama", "C4=Tutar", "D4=B/A" }));
+    python.start(QStringLiteral("python3"), { QStringLiteral("-c"), script, path });
+    if (!python.waitForFinished(20000))
+        return { QStringLiteral("python3 did not finish") };
+    return QString::fromUtf8(python.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void TestDcList::exportWritesNumbersAndDates()
+{
+    fillRows({ { "05.11.2026", "Kira", "1250.5", "B" }, { "", "", "", "" } });
+    QString written;
+    SetSheetOpener([&written](const QString &path) {
+        written = path;
+        return true;
+    });
+    QVERIFY(m_list->SendExel(QStringLiteral("Liste"), QString(), QString(), QString()));
+    SetSheetOpener(nullptr);
+    QCOMPARE(sheetCells(written),
+        QStringList({ "A1=Liste", "A4=Tarih", "B4=Açıklama", "C4=Tutar", "D4=B/A", "A5=#46331", "B5=Kira", "C5=#1250.5",
+            "D5=B" }));
     QFile::remove(written);
+}
+
+void TestDcList::unansweredCheckIsAskedAgain()
+{
+    m_screen->check = ScreenHarness::Check::Silent;
+    QTest::keyClick(view(), Qt::Key_Return);
+    m_list->AlanDegisti(3);
+    typeInEditor(QStringLiteral("x"));
+    enter();
+    QCOMPARE(m_list->CurrentCol(), 3); // not accepted without an answer
+    enter();
+    QCOMPARE(m_screen->checkedTexts.size(), 2); // asked again, not swallowed
+    m_screen->check = ScreenHarness::Check::Answer;
+    m_list->editor()->clear();
+    typeInEditor(QStringLiteral("b"));
+    enter();
+    QCOMPARE(m_screen->updates, 1);
+    QCOMPARE(m_list->Caption(0, 3), QStringLiteral("B"));
+}
+
+void TestDcList::lateAnswerIsTaken()
+{
+    m_screen->check = ScreenHarness::Check::Late;
+    QTest::keyClick(view(), Qt::Key_Return);
+    m_list->AlanDegisti(3);
+    typeInEditor(QStringLiteral("a"));
+    enter();
+    QCOMPARE(m_screen->updates, 0);
+    QTRY_COMPARE(m_screen->updates, 1);
+    QCOMPARE(m_list->Caption(0, 3), QStringLiteral("A"));
+}
+
+void TestDcList::checkSeesTheTypedValue()
+{
+    fillRows({ { "01.01.2026", "Kira", "100", "A" } });
+    m_list->ChngSat(0);
+    QTest::keyClick(view(), Qt::Key_Return);
+    m_list->AlanDegisti(3);
+    typeInEditor(QStringLiteral("b"));
+    enter();
+    QCOMPARE(m_screen->checkedTexts, QStringList { "b" });
+    QCOMPARE(m_list->Caption(0, 3), QStringLiteral("B"));
+}
+
+void TestDcList::unacknowledgedRowIsKept()
+{
+    fillRows({ {} }); // the screens' empty row for a new entry
+    m_list->ChngSat(0);
+    m_screen->acceptRows = false;
+    typeRow({ "05", "Kira", "1250.5", "b" });
+    QCOMPARE(m_screen->updates, 1);
+    QCOMPARE(m_list->Caption(0, 1), QString()); // not stored
+    QCOMPARE(rowTexts(0), QStringList({ "05.11.2026", "Kira", "1,250.50", "B" })); // but still shown
+    QTest::keyClick(view(), Qt::Key_Return);
+    QCOMPARE(m_list->editor()->text(), QStringLiteral("05.11.2026"));
+    QCOMPARE(m_list->Text(1), QStringLiteral("Kira"));
+    m_screen->acceptRows = true;
+    for (int cell = 0; cell < 4; ++cell)
+        enter();
+    QCOMPARE(m_screen->updates, 2);
+    QCOMPARE(m_list->Caption(0, 1), QStringLiteral("Kira"));
+    QCOMPARE(m_list->Caption(0, 2), QStringLiteral("1250.5"));
+}
+
+// Counts the times a widget receives the focus.
+class FocusCounter : public QObject
+{
+public:
+    explicit FocusCounter(QWidget *widget)
+        : QObject(widget)
+    {
+        widget->installEventFilter(this);
+    }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::FocusIn;
+        return false;
+    }
+};
+
+void TestDcList::storedRowKeepsTheFocusInTheList()
+{
+    auto *next = new QLineEdit(m_window.get()); // the screen's next field
+    next->show();
+    const FocusCounter *visits = new FocusCounter(next);
+    view()->setFocus();
+    typeRow({ "05", "Kira", "10", "b" });
+    QCOMPARE(m_screen->updates, 1);
+    QCOMPARE(visits->count, 0);
+    QVERIFY(view()->hasFocus());
+}
+
+void TestDcList::tabStaysInTheEditor()
+{
+    auto *next = new QLineEdit(m_window.get()); // the screen's next field
+    next->show();
+    QTest::keyClick(view(), Qt::Key_Return);
+    for (Qt::Key key : { Qt::Key_Tab, Qt::Key_Backtab }) {
+        QTest::keyClick(m_list->editor(), key);
+        QCOMPARE(m_list->CurrentMode(), 2);
+        QVERIFY(m_list->editor()->hasFocus());
+    }
+}
+
+void TestDcList::stepsStopAtTheEnds_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("changes");
+    const int none = Qt::NoModifier;
+    const int control = Qt::ControlModifier;
+    QTest::newRow("up on the first row") << 0 << int(Qt::Key_Up) << none << 0 << 0;
+    QTest::newRow("down on the last row") << 2 << int(Qt::Key_Down) << none << 2 << 0;
+    QTest::newRow("down") << 0 << int(Qt::Key_Down) << none << 1 << 1;
+    QTest::newRow("up") << 2 << int(Qt::Key_Up) << none << 1 << 1;
+    QTest::newRow("ctrl+end") << 0 << int(Qt::Key_End) << control << 2 << 1;
+    QTest::newRow("ctrl+home") << 2 << int(Qt::Key_Home) << control << 0 << 1;
+    QTest::newRow("end alone stays") << 0 << int(Qt::Key_End) << none << 0 << 0;
+    QTest::newRow("home alone stays") << 2 << int(Qt::Key_Home) << none << 2 << 0;
+    QTest::newRow("page down") << 0 << int(Qt::Key_PageDown) << none << 2 << 1;
+    QTest::newRow("page up") << 2 << int(Qt::Key_PageUp) << none << 0 << 1;
+    QTest::newRow("page up on the first row") << 0 << int(Qt::Key_PageUp) << none << 0 << 0;
+}
+
+void TestDcList::stepsStopAtTheEnds()
+{
+    QFETCH(int, from);
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(int, to);
+    QFETCH(int, changes);
+    fillRows({ { "01.01.2026" }, { "02.01.2026" }, { "03.01.2026" } });
+    m_list->ChngSat(from);
+    QSignalSpy rowChanges(m_list, &DcList::SatirChange);
+    m_list->UseKeys(key, Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(m_list->CurSat(), to);
+    QCOMPARE(rowChanges.count(), changes);
+    QCOMPARE(view()->currentIndex().row(), to);
+}
+
+void TestDcList::lockedCellOnlyTakesEnterDownAndEscape()
+{
+    connect(m_list, &DcList::AlanChanged, this, [this](int column) { m_list->setCellLock(column == 1); });
+    QTest::keyClick(view(), Qt::Key_Return);
+    typeInEditor(QStringLiteral("05"));
+    enter();
+    QCOMPARE(m_list->CurrentCol(), 1);
+    QTest::keyClick(m_list->editor(), Qt::Key_Up);
+    QCOMPARE(m_list->CurrentCol(), 1);
+    QTest::keyClick(m_list->editor(), Qt::Key_F3);
+    QCOMPARE(m_screen->keys, QList<int>());
+    m_list->SetTextBox(QStringLiteral("Kira"));
+    QTest::keyClick(m_list->editor(), Qt::Key_Down);
+    QCOMPARE(m_list->CurrentCol(), 2);
+    QCOMPARE(m_list->Text(1), QStringLiteral("Kira"));
+    QVERIFY(!m_list->CellLock()); // the next cell opens unlocked
+}
+
+void TestDcList::storedValuesByKind_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("every digit kept") << 2 << "12345678901234.56"
+                                      << "12345678901234.56";
+    QTest::newRow("largest amount") << 2 << "999999999999999"
+                                    << "999999999999999";
+    QTest::newRow("needless zeros") << 2 << "0012.50"
+                                    << "12.5";
+    QTest::newRow("point alone") << 2 << "12."
+                                 << "12";
+    QTest::newRow("fraction alone") << 2 << ".05"
+                                    << "0.05";
+    QTest::newRow("negative") << 2 << "-5.5"
+                              << "-5.5";
+    QTest::newRow("empty number") << 2 << ""
+                                  << "0";
+    QTest::newRow("code: first character") << 3 << "Borç"
+                                           << "B";
+    QTest::newRow("text as it is") << 1 << " Kira "
+                                   << " Kira ";
+}
+
+void TestDcList::storedValuesByKind()
+{
+    QFETCH(int, column);
+    QFETCH(QString, typed);
+    QFETCH(QString, stored);
+    fillRows({ {} });
+    m_list->ChngSat(0);
+    m_list->setText(column, typed);
+    m_list->OkUpdateData(0);
+    QCOMPARE(m_list->Caption(0, column), stored);
+}
+
+void TestDcList::longNumberIsKeptExactly()
+{
+    typeRow({ "05", "Kira", "12345678901234.56", "b" });
+    QCOMPARE(m_list->Caption(0, 2), QStringLiteral("12345678901234.56"));
+    QCOMPARE(rowTexts(0).at(2), QStringLiteral("12,345,678,901,234.56"));
+}
+
+void TestDcList::insertMakesRoomAtTheCurrentRow()
+{
+    fillRows({ { "", "A" }, { "", "B" }, { "", "C" } });
+    m_list->ChngSat(1);
+    QSignalSpy rowChanges(m_list, &DcList::SatirChange);
+    QTest::keyClick(view(), Qt::Key_Insert);
+    QCOMPARE(m_list->ListCount(), 4);
+    QCOMPARE(m_list->Caption(1, 1), QString());
+    QCOMPARE(m_list->Caption(2, 1), QStringLiteral("B"));
+    QCOMPARE(m_list->CurSat(), 1);
+    QCOMPARE(rowChanges.count(), 1);
+}
+
+void TestDcList::focusComingAndGoing()
+{
+    auto *other = new QLineEdit(m_window.get());
+    other->show();
+    QSignalSpy arrivals(m_list, &DcList::ListFocused);
+    QCOMPARE(m_list->CurrentMode(), 1);
+    other->setFocus();
+    QCOMPARE(m_list->CurrentMode(), 0);
+    view()->setFocus();
+    QCOMPARE(m_list->CurrentMode(), 1);
+    QCOMPARE(arrivals.count(), 1);
+    typeRow({ "05", "Kira", "10", "b" }); // back from the editor is no arrival
+    QCOMPARE(arrivals.count(), 1);
+}
+
+void TestDcList::suggestionFromAlanChanged()
+{
+    connect(m_list, &DcList::AlanChanged, this, [this](int column) {
+        if (column == 3 && m_list->Text(3).isEmpty())
+            m_list->SetTextBox(QStringLiteral("B"));
+    });
+    typeRow({ "05", "Kira", "10" });
+    QCOMPARE(m_list->editor()->text(), QStringLiteral("B"));
+    enter();
+    QCOMPARE(m_list->Caption(0, 3), QStringLiteral("B"));
 }
 
 QTEST_MAIN(TestDcList)
