@@ -1,6 +1,7 @@
 #include "printing/PagedReport.h"
 
 #include "money/FormatAmount.h"
+#include "printing/PrintSettings.h"
 #include "printing/Prnx.h"
 
 namespace {
@@ -9,10 +10,10 @@ const QString gap = QStringLiteral(" ");
 
 } // namespace
 
-PagedReport::PagedReport(Prnx &prnx, ReportLayout layout, int linesPerPage)
+PagedReport::PagedReport(Prnx &prnx, ReportLayout layout)
     : m_prnx(prnx)
     , m_layout(std::move(layout))
-    , m_linesPerPage(linesPerPage)
+    , m_linesPerPage(printSettings().lines)
 {
     for (const ReportColumn &column : m_layout.columns)
         if (column.summed)

@@ -39,11 +39,12 @@ struct ReportLayout
 
 // Prints a list over the print engine page by page: the page head with the column heads and
 // their rules, the carry line on every page after the first, the rows, the page footing with
-// the running totals, and the final totals. The engine must be open; the caller closes it.
+// the running totals, and the final totals. The engine must be open (its kind has settled the
+// lines per page of the print-settings record); the caller closes it.
 class PagedReport
 {
 public:
-    PagedReport(Prnx &prnx, ReportLayout layout, int linesPerPage);
+    PagedReport(Prnx &prnx, ReportLayout layout);
 
     // One row: a cell per column; a Currency is printed by FormatAmount (zero as blank) and,
     // in a summed column, added to the running totals.

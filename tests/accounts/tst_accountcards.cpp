@@ -33,9 +33,11 @@ private slots:
 
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
+    // A panel amount as a screen reader reads it: the value is the label's accessible name.
     QString panel(int row, int column) const
     {
-        return m_screen->findChild<QLabel *>(QStringLiteral("bakiye_%1_%2").arg(row).arg(column))->text();
+        const auto *amount = m_screen->findChild<QLabel *>(QStringLiteral("bakiye_%1_%2").arg(row).arg(column));
+        return amount->accessibleName() == amount->text() ? amount->accessibleName() : QStringLiteral("?");
     }
     void typeInto(int index, const QString &keys);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -160,6 +162,11 @@ void TestAccountCards::balancePanel()
         for (int column = 0; column < 3; ++column)
             shown << panel(row, column);
     QCOMPARE(shown, expected);
+    const auto *balance = m_screen->findChild<QLabel *>(QStringLiteral("bakiye_0_2"));
+    QCOMPARE(balance->accessibleDescription(), QStringLiteral("Bakiye Bakiye"));
+    const auto *type = m_screen->findChild<QLabel *>(QStringLiteral("cariTip"));
+    QCOMPARE(type->accessibleName(), QStringLiteral("Müşteri"));
+    QCOMPARE(type->accessibleDescription(), QStringLiteral("Cari Tip Adı"));
 }
 
 void TestAccountCards::deleteAsksFirst()

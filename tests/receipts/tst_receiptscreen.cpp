@@ -185,7 +185,10 @@ void TestReceiptScreen::fullReceiptIsPostedAndPrinted()
     QCOMPARE(field(9)->Text(), QStringLiteral("1,000.00"));
     m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->click();
     m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->click();
-    QCOMPARE(m_screen->findChild<QLabel *>(QStringLiteral("toplam"))->text(), QStringLiteral("960.00"));
+    const auto *total = m_screen->findChild<QLabel *>(QStringLiteral("toplam"));
+    QCOMPARE(total->text(), QStringLiteral("960.00"));
+    QCOMPARE(total->accessibleName(), QStringLiteral("960.00")); // what a screen reader reads
+    QCOMPARE(total->accessibleDescription(), QStringLiteral("TOPLAM"));
     typeInto(8, QStringLiteral("Danışmanlık"));
 
     const QByteArray before = m_spooler->received();

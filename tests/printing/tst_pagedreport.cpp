@@ -1,0 +1,179 @@
+#include "money/Currency.h"
+#include "printing/DosPrint.h"
+#include "printing/PagedReport.h"
+#include "printing/PrintSettings.h"
+#include "printing/Prnx.h"
+#include "testsupport/ExpectedPage.h"
+#include "testsupport/RecordingRawChannel.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+constexpr int linesPerPage = 12; // with room for a footing of 6: six lines of head and rows
+
+ReportLayout testLayout(bool totalsOnOwnPage = false)
+{
+    ReportLayout layout;
+    layout.columns = { { QStringLiteral("No"), 4, 1 }, { QStringLiteral("Açıklama"), 20 },
+        { QStringLiteral("Tutar"), 12, 1, true }, { QStringLiteral("Kdv"), 10, 1, true } };
+    layout.pageTop = [](Prnx &prnx) { prnx.Lprint(QStringLiteral("DENEME LİSTESİ"), 48, true, 2, true); };
+    layout.carryCaption = QStringLiteral("Nakli Yekun :");
+    layout.boldTotals = true;
+    layout.totalsOnOwnPage = totalsOnOwnPage;
+    return layout;
+}
+
+QVariantList row(int number)
+{
+    return { number, QStringLiteral("Satır %1").arg(number), QVariant::fromValue(Currency::fromUnits(100 * number)),
+        QVariant::fromValue(Currency::fromUnits(18 * number)) };
+}
+
+} // namespace
+
+class TestPagedReport : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void pagesCarryTheirTotals();
+    void lastRowFillingAPageEndsThere_data();
+    void lastRowFillingAPageEndsThere();
+    void graphicPagesAsPdf();
+
+private:
+    void printRows(int count, bool totalsOnOwnPage);
+    // The expected head of a page; the carry line from the second page on.
+    static void head(ExpectedRawPage &page, const QString &carriedAmount = QString(), const QString &carriedKdv = {});
+    static void foot(ExpectedRawPage &page, const QString &amount, const QString &kdv);
+
+    RecordingRawChannel::Log m_log;
+};
+
+void TestPagedReport::init()
+{
+    m_log = RecordingRawChannel::Log();
+    ResetPrintSettings();
+    printSettings().lines = linesPerPage;
+    SetRawChannel(std::make_unique<RecordingRawChannel>(&m_log));
+}
+
+void TestPagedReport::cleanup()
+{
+    SetRawChannel(nullptr);
+}
+
+void TestPagedReport::printRows(int count, bool totalsOnOwnPage)
+{
+    Prnx prnx;
+    QVERIFY(prnx.OpenPrinter(Prnx::Raw, QStringLiteral("Deneme")));
+    PagedReport report(prnx, testLayout(totalsOnOwnPage));
+    for (int number = 1; number <= count; ++number)
+        report.printRow(row(number));
+    report.finish();
+    prnx.ClosePrinter();
+}
+
+void TestPagedReport::head(ExpectedRawPage &page, const QString &carriedAmount, const QString &carriedKdv)
+{
+    page.bold(QStringLiteral("DENEME LİSTESİ"), 48, 2).endLine();
+    page.bold(QStringLiteral("No"), 4).gap().bold(QStringLiteral("Açıklama"), 20).gap();
+    page.bold(QStringLiteral("Tutar"), 12).gap().bold(QStringLiteral("Kdv"), 10).endLine();
+    page.rule(4).gap().rule(20).gap().rule(12).gap().rule(10).endLine();
+    if (!carriedAmount.isEmpty())
+        page.field(QStringLiteral("Nakli Yekun :"), 25, 1).gap().field(carriedAmount, 12, 1).gap()
+            .field(carriedKdv, 10, 1).endLine();
+}
+
+void TestPagedReport::foot(ExpectedRawPage &page, const QString &amount, const QString &kdv)
+{
+    page.rule(4).gap().rule(20).gap().rule(12).gap().rule(10).endLine();
+    page.bold(QStringLiteral("T O P L A M :"), 25, 1).gap().bold(amount, 12, 1).gap().bold(kdv, 10, 1).endLine();
+    page.endPage(linesPerPage);
+}
+
+void TestPagedReport::pagesCarryTheirTotals()
+{
+    printRows(6, false);
+    ExpectedRawPage page;
+    const auto line = [&page](int number) {
+        page.field(QString::number(number), 4, 1).gap().field(QStringLiteral("Satır %1").arg(number), 20).gap();
+        page.field(QStringLiteral("%1.00").arg(100 * number), 12, 1).gap();
+        page.field(QStringLiteral("%1.00").arg(18 * number), 10, 1).endLine();
+    };
+    head(page);
+    line(1), line(2), line(3); // head (3) + rows: 6 lines, the page is full
+    foot(page, QStringLiteral("600.00"), QStringLiteral("108.00"));
+    head(page, QStringLiteral("600.00"), QStringLiteral("108.00"));
+    line(4), line(5);
+    foot(page, QStringLiteral("1,500.00"), QStringLiteral("270.00"));
+    head(page, QStringLiteral("1,500.00"), QStringLiteral("270.00"));
+    line(6);
+    foot(page, QStringLiteral("2,100.00"), QStringLiteral("378.00"));
+    const QString difference = FirstDifference(m_log.bytes(), page.bytes());
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    QCOMPARE(m_log.pageEnds, 3);
+}
+
+void TestPagedReport::lastRowFillingAPageEndsThere_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<bool>("totalsOnOwnPage");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<QString>("lastTotal");
+    QTest::newRow("page ends with the book") << 5 << false << 2 << "1,500.00";
+    QTest::newRow("totals on a page of their own") << 5 << true << 3 << "1,500.00";
+    QTest::newRow("footing after a short page") << 4 << true << 2 << "1,000.00";
+    QTest::newRow("nothing printed") << 0 << true << 0 << "";
+}
+
+void TestPagedReport::lastRowFillingAPageEndsThere()
+{
+    QFETCH(int, rows);
+    QFETCH(bool, totalsOnOwnPage);
+    QFETCH(int, pages);
+    QFETCH(QString, lastTotal);
+    printRows(rows, totalsOnOwnPage);
+    QCOMPARE(m_log.pageEnds, pages);
+    const QByteArray bytes = m_log.bytes();
+    QCOMPARE(bytes.count("\r\n"), pages * linesPerPage);
+    if (pages > 0) {
+        const QByteArray lastPage = bytes.split('\n').mid((pages - 1) * linesPerPage).join('\n');
+        QVERIFY(lastPage.contains(lastTotal.toLatin1()));
+        QCOMPARE(lastPage.contains("Nakli Yekun"), pages > 1);
+    }
+}
+
+void TestPagedReport::graphicPagesAsPdf()
+{
+    QTemporaryDir dir;
+    PrintSettings &settings = printSettings();
+    settings.target = PrintSettings::GraphicTarget::PdfFile;
+    settings.pdfFile = dir.filePath(QStringLiteral("liste.pdf"));
+    Prnx prnx;
+    QVERIFY(prnx.OpenPrinter(Prnx::Graphic, QStringLiteral("Deneme")));
+    const int rowsPerPage = settings.lines - 6 - 3; // the lines that fit, less the head and the footing
+    PagedReport report(prnx, testLayout());
+    for (int number = 1; number <= rowsPerPage + 1; ++number)
+        report.printRow(row(number));
+    report.finish();
+    prnx.ClosePrinter();
+
+    QProcess text;
+    text.start(QStringLiteral("pdftotext"), { QStringLiteral("-layout"), settings.pdfFile, QStringLiteral("-") });
+    QVERIFY(text.waitForFinished(20000));
+    const QStringList pages = QString::fromUtf8(text.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
+    QCOMPARE(pages.size(), 2);
+    QVERIFY2(pages[0].contains(QStringLiteral("DENEME LİSTESİ")), qPrintable(pages[0]));
+    QVERIFY(pages[0].contains(QStringLiteral("T O P L A M :")));
+    QVERIFY(!pages[0].contains(QStringLiteral("Nakli Yekun :")));
+    QVERIFY2(pages[1].contains(QStringLiteral("Nakli Yekun :")), qPrintable(pages[1]));
+    QVERIFY(pages[1].contains(QStringLiteral("Satır %1").arg(rowsPerPage + 1)));
+}
+
+QTEST_MAIN(TestPagedReport)
+#include "tst_pagedreport.moc"
