@@ -6,10 +6,8 @@
 #include "core/Parameters.h"
 #include "money/AmountConventions.h"
 #include "testsupport/Books.h"
-#include "testsupport/MessageLog.h"
-#include "testsupport/ProgramWindow.h"
 #include "testsupport/QueryTexts.h"
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/ScreenFixture.h"
 #include "testsupport/Typing.h"
 
 #include <QLabel>
@@ -39,41 +37,28 @@ private:
         const auto *amount = m_screen->findChild<QLabel *>(QStringLiteral("bakiye_%1_%2").arg(row).arg(column));
         return amount->accessibleName() == amount->text() ? amount->accessibleName() : QStringLiteral("?");
     }
-    void typeInto(int index, const QString &keys);
+    void typeInto(int index, const QString &keys) { TypeIntoField(field(index), keys); }
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    std::unique_ptr<MessageLog> m_messages;
-    std::unique_ptr<TestDataFolder> m_folder;
-    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<ScreenFixture> m_kit;
     QPointer<AccountCardsScreen> m_screen;
 };
 
 void TestAccountCards::init()
 {
-    m_messages = std::make_unique<MessageLog>();
-    m_folder = std::make_unique<TestDataFolder>();
-    QVERIFY(m_folder->isReady());
+    m_kit = std::make_unique<ScreenFixture>();
+    QVERIFY(m_kit->isReady());
     amountConventions().tlonda = 2;
     QVERIFY(AddCard(QStringLiteral("B1"), QStringLiteral("Birinci")));
     QVERIFY(AddCard(QStringLiteral("C1"), QStringLiteral("Çağlar")));
     QVERIFY(AddCard(QStringLiteral("A1"), QStringLiteral("Ahmet")));
-    m_window = ShowProgramWindow();
-    m_screen = OpenFromMenu<AccountCardsScreen>(*m_window, "mnucarkart", "Form3");
+    m_screen = m_kit->open<AccountCardsScreen>("mnucarkart", "Form3");
     QVERIFY(m_screen);
 }
 
 void TestAccountCards::cleanup()
 {
-    m_window.reset();
-    m_folder.reset();
-    m_messages.reset();
-}
-
-void TestAccountCards::typeInto(int index, const QString &keys)
-{
-    field(index)->setFocus();
-    QCoreApplication::processEvents(); // the field selects its text on entry
-    typeKeys(field(index)->textBox(), keys);
+    m_kit.reset();
 }
 
 void TestAccountCards::key(int key, Qt::KeyboardModifiers modifiers)
@@ -105,7 +90,7 @@ void TestAccountCards::newCodeClearsTheCardButKeepsTheNotes()
     typeInto(7, QStringLiteral("1"));
     typeInto(8, QStringLiteral("Telefon 555"));
     key(Qt::Key_F5);
-    QCOMPARE(m_messages->entries().size(), 0);
+    QCOMPARE(m_kit->messages().entries().size(), 0);
     QVERIFY(CariExists(QStringLiteral("A1")));
     QCOMPARE(FieldRead(*dataFiles().carkart, QStringLiteral("unv")).toString(), QStringLiteral("Ahmet Bey"));
     QCOMPARE(FieldRead(*dataFiles().carkart, QStringLiteral("tip")).toInt(), 1);
@@ -130,7 +115,7 @@ void TestAccountCards::blankCodeSavesNothing()
     typeInto(1, QStringLiteral("Boş"));
     key(Qt::Key_F5);
     QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carkart"), QStringLiteral("n")), QStringList { "3" });
-    QVERIFY(m_messages->entries().isEmpty());
+    QVERIFY(m_kit->messages().entries().isEmpty());
 }
 
 void TestAccountCards::balancePanel_data()
@@ -176,14 +161,14 @@ void TestAccountCards::deleteAsksFirst()
     QVERIFY(AddTransaction(QStringLiteral("C1"), 1, 1, Currency::fromUnits(100)));
     typeInto(0, QStringLiteral("B1"));
     key(Qt::Key_Return);
-    m_messages->answerNext(false);
+    m_kit->messages().answerNext(false);
     key(Qt::Key_F7);
-    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Kart Silinecek Eminmisiniz ?") });
-    QCOMPARE(m_messages->entries().first().kind, Message::Kind::Question);
+    QCOMPARE(m_kit->messages().texts(), QStringList { QStringLiteral("Kart Silinecek Eminmisiniz ?") });
+    QCOMPARE(m_kit->messages().entries().first().kind, Message::Kind::Question);
     QVERIFY(CariExists(QStringLiteral("B1")));
     QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "3" });
 
-    m_messages->answerNext(true);
+    m_kit->messages().answerNext(true);
     key(Qt::Key_F7);
     QVERIFY(!CariExists(QStringLiteral("B1")));
     QCOMPARE(QueryTexts(QStringLiteral("SELECT kod FROM carhar"), QStringLiteral("kod")), QStringList { "C1" });
@@ -192,7 +177,7 @@ void TestAccountCards::deleteAsksFirst()
 
     typeInto(0, QStringLiteral("B1"));
     key(Qt::Key_F7);
-    QCOMPARE(m_messages->texts().last(), QStringLiteral("Silinecek Cari Kart Bulunamadı..."));
+    QCOMPARE(m_kit->messages().texts().last(), QStringLiteral("Silinecek Cari Kart Bulunamadı..."));
 }
 
 void TestAccountCards::movingStopsAtBothEnds()

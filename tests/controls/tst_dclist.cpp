@@ -3,6 +3,7 @@
 #include "controls/SpreadsheetExport.h"
 #include "core/Clock.h"
 #include "testsupport/MessageLog.h"
+#include "testsupport/ScreenFixture.h"
 #include "testsupport/Typing.h"
 
 #include <QAbstractItemModelTester>
@@ -95,7 +96,7 @@ private slots:
     void suggestionFromAlanChanged();
 
 private:
-    void typeRow(const QStringList &cells);
+    void typeRow(const QStringList &cells) { TypeGridRow(m_list, cells); }
     QStringList rowTexts(int row) const;
     QStringList sheetCells(const QString &path) const;
     void defineColumns();
@@ -479,15 +480,6 @@ void TestDcList::exportOfAnEmptyList()
     const QStringList cells = sheetCells(written);
     QCOMPARE(cells, QStringList({ "A1=Stopaj Listesi", "B1=#46342", "A4=Tarih", "B4=Açıklama", "C4=Tutar", "D4=B/A" }));
     QFile::remove(written);
-}
-
-void TestDcList::typeRow(const QStringList &cells)
-{
-    QTest::keyClick(view(), Qt::Key_Return);
-    for (const QString &cell : cells) {
-        typeInEditor(cell);
-        enter();
-    }
 }
 
 QStringList TestDcList::rowTexts(int row) const

@@ -10,11 +10,9 @@
 #include "printing/RawText.h"
 #include "receipts/DepositScreen.h"
 #include "receipts/ReceiptScreen.h"
-#include "testsupport/MessageLog.h"
 #include "testsupport/PrivateSpooler.h"
-#include "testsupport/ProgramWindow.h"
 #include "testsupport/QueryTexts.h"
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/ScreenFixture.h"
 #include "testsupport/Typing.h"
 
 #include <QCheckBox>
@@ -80,9 +78,7 @@ private:
     QPointer<QWidget> m_screenOfDeposit;
 
     std::unique_ptr<PrivateSpooler> m_spooler;
-    std::unique_ptr<MessageLog> m_messages;
-    std::unique_ptr<TestDataFolder> m_folder;
-    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<ScreenFixture> m_kit;
     QPointer<ReceiptScreen> m_screen;
 };
 
@@ -102,9 +98,8 @@ void TestReceiptScreen::init()
 {
     SetToday(QDate(2026, 11, 16));
     ResetPrintSettings();
-    m_messages = std::make_unique<MessageLog>();
-    m_folder = std::make_unique<TestDataFolder>();
-    QVERIFY(m_folder->isReady());
+    m_kit = std::make_unique<ScreenFixture>();
+    QVERIFY(m_kit->isReady());
     GenelSingSet(QStringLiteral("stopaj"), 20);
     GenelSingSet(QStringLiteral("fon"), 10);
     GenelSingSet(QStringLiteral("kdv"), 18);
@@ -121,25 +116,19 @@ void TestReceiptScreen::init()
     FieldWrite(cards, QStringLiteral("vn"), QStringLiteral("1234567890"));
     FieldWrite(cards, QStringLiteral("ucret"), QVariant::fromValue(Currency::fromUnits(1000)));
     QVERIFY(RsUpdate(cards));
-    m_window = ShowProgramWindow();
-    m_screen = OpenFromMenu<ReceiptScreen>(*m_window, "mnumkb", "Form1");
+    m_screen = m_kit->open<ReceiptScreen>("mnumkb", "Form1");
     QVERIFY(m_screen);
 }
 
 void TestReceiptScreen::cleanup()
 {
-    m_window.reset();
-    m_folder.reset();
-    m_messages.reset();
+    m_kit.reset();
     SetToday(QDate());
 }
 
 void TestReceiptScreen::typeIn(QWidget *screen, int index, const QString &keys)
 {
-    XText *target = screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index));
-    target->setFocus();
-    QCoreApplication::processEvents(); // the field selects its text on entry
-    typeKeys(target->textBox(), keys);
+    TypeIntoField(screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)), keys);
 }
 
 void TestReceiptScreen::fullReceiptIsPostedAndPrinted()
@@ -243,9 +232,9 @@ void TestReceiptScreen::fullReceiptIsPostedAndPrinted()
     QCOMPARE(field(0)->Text(), QStringLiteral("501"));
     QCOMPARE(field(8)->Text(), QStringLiteral("Danışmanlık"));
     QCOMPARE(field(2)->Text(), QString());
-    QTRY_COMPARE(m_window->focusWidget(), field(2)->textBox());
+    QTRY_COMPARE(m_kit->window().focusWidget(), field(2)->textBox());
     QCOMPARE(m_screen->total(), Currency());
-    QVERIFY(m_messages->entries().isEmpty());
+    QVERIFY(m_kit->messages().entries().isEmpty());
 }
 
 void TestReceiptScreen::zeroTotalSavesNothing()
@@ -254,7 +243,7 @@ void TestReceiptScreen::zeroTotalSavesNothing()
     QTest::keyClick(field(2)->textBox(), Qt::Key_F5);
     QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "0" });
     QCOMPARE(GenelCurrenGet(QStringLiteral("serino")), Currency());
-    QVERIFY(m_messages->entries().isEmpty());
+    QVERIFY(m_kit->messages().entries().isEmpty());
 }
 
 void TestReceiptScreen::graphicOutputIsRefused()
@@ -267,14 +256,14 @@ void TestReceiptScreen::graphicOutputIsRefused()
     });
     field(1)->setFocus();
     QTest::keyClick(field(1)->textBox(), Qt::Key_F8);
-    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Dot-Matrix Yazıcıdan Alınabilir..") });
+    QCOMPARE(m_kit->messages().texts(), QStringList { QStringLiteral("Dot-Matrix Yazıcıdan Alınabilir..") });
     QCOMPARE(printSettings().lines, 33);
 }
 
 DepositScreen *TestReceiptScreen::openDeposit()
 {
-    m_window->menuItem(QStringLiteral("mnuemanet"))->trigger();
-    auto *deposit = m_window->findChild<DepositScreen *>(QStringLiteral("Form6"));
+    m_kit->window().menuItem(QStringLiteral("mnuemanet"))->trigger();
+    auto *deposit = m_kit->window().findChild<DepositScreen *>(QStringLiteral("Form6"));
     m_screenOfDeposit = deposit;
     return deposit;
 }
@@ -304,7 +293,7 @@ void TestReceiptScreen::depositIsPostedAsACredit()
     QCOMPARE(GenelCurrenGet(QStringLiteral("emanet")), Currency::fromUnits(120));
     QCOMPARE(depositField(0)->Text(), QStringLiteral("121"));
     QCOMPARE(depositField(9)->Text(), QString());
-    QVERIFY(m_messages->entries().isEmpty());
+    QVERIFY(m_kit->messages().entries().isEmpty());
 }
 
 void TestReceiptScreen::depositFormOnTheDotMatrixPrinter()

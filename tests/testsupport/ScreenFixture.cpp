@@ -1,0 +1,41 @@
+#include "testsupport/ScreenFixture.h"
+
+#include "controls/DcCellEditor.h"
+#include "controls/DcList.h"
+#include "controls/XText.h"
+#include "testsupport/ProgramWindow.h"
+#include "testsupport/Typing.h"
+
+#include <QTableView>
+#include <QtTest>
+
+ScreenFixture::ScreenFixture() = default;
+
+// The window goes first: its screens still reach the data file while they close.
+ScreenFixture::~ScreenFixture()
+{
+    m_window.reset();
+}
+
+MainWindow &ScreenFixture::window()
+{
+    if (!m_window)
+        m_window = ShowProgramWindow();
+    return *m_window;
+}
+
+void TypeIntoField(XText *field, const QString &keys)
+{
+    field->setFocus();
+    QCoreApplication::processEvents(); // the field selects its text on entry
+    typeKeys(field->textBox(), keys);
+}
+
+void TypeGridRow(DcList *list, const QStringList &cells)
+{
+    QTest::keyClick(list->view(), Qt::Key_Return);
+    for (const QString &cell : cells) {
+        typeKeys(list->editor(), cell);
+        QTest::keyClick(list->editor(), Qt::Key_Return);
+    }
+}

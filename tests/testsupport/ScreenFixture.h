@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/MainWindow.h"
+#include "testsupport/MessageLog.h"
+#include "testsupport/TestDataFolder.h"
+
+#include <QAction>
+
+#include <memory>
+
+class DcList;
+class XText;
+
+// What a screen test stands on: a fresh data folder, the message-box script and, once asked
+// for, the program's main window with every screen. Make one in init() and drop it in
+// cleanup(); books written before the window is shown are there when its screens open.
+class ScreenFixture
+{
+public:
+    ScreenFixture();
+    ~ScreenFixture();
+    ScreenFixture(const ScreenFixture &) = delete;
+    ScreenFixture &operator=(const ScreenFixture &) = delete;
+
+    bool isReady() const { return m_folder.isReady(); }
+    MessageLog &messages() { return m_messages; }
+    MainWindow &window();
+
+    // Chooses a menu item and returns the screen it opened (nullptr when none did).
+    template <typename ScreenType> ScreenType *open(const char *item, const char *form)
+    {
+        window().menuItem(QString::fromLatin1(item))->trigger();
+        return window().findChild<ScreenType *>(QString::fromLatin1(form));
+    }
+
+private:
+    MessageLog m_messages;
+    TestDataFolder m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+// Moves into an input field, as Enter or a click would, and types keys into it (see typeKeys).
+void TypeIntoField(XText *field, const QString &keys);
+// Types a grid row as a person does: Enter on the list opens the editor, then every cell's keys
+// each followed by Enter.
+void TypeGridRow(DcList *list, const QStringList &cells);
