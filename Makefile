@@ -1,9 +1,10 @@
 # make run   installs what is missing, builds, starts the program (xsmm.dat beside it in build/)
 # make test  installs what is missing, builds, runs every test, then again under ASan+UBSan
+#            (that build uses clang, so the sources pass both compilers' warnings)
 # make bench builds and runs the benchmarks
 
 BUILD      := build
-ASAN_BUILD := build-asan
+ASAN_BUILD := build-asan-clang
 JOBS       ?= $(shell nproc)
 
 .PHONY: deps build build-asan run test test-plain test-asan bench format clean
@@ -15,7 +16,7 @@ $(BUILD)/build.ninja:
 	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 
 $(ASAN_BUILD)/build.ninja:
-	cmake -S . -B $(ASAN_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DSM_SANITIZE=ON
+	cmake -S . -B $(ASAN_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DSM_SANITIZE=ON -DCMAKE_CXX_COMPILER=clang++
 
 build: deps $(BUILD)/build.ninja
 	cmake --build $(BUILD) -j $(JOBS)

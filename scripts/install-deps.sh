@@ -3,7 +3,7 @@
 set -euo pipefail
 
 packages=(
-  build-essential cmake ninja-build ccache pkg-config
+  build-essential clang cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-base-dev-tools libqt6sql6
   libsqlite3-dev libcups2-dev libxlsxwriter-dev
   xvfb xauth xdg-utils fonts-dejavu-core

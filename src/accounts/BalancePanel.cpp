@@ -70,11 +70,16 @@ void BalancePanel::showAccount(const QString &code)
 {
     sums(code, false, &m_otherDebit, &m_otherCredit);
     sums(code, true, &m_receiptDebit, &m_receiptCredit);
+    showSums(m_otherDebit, m_otherCredit, m_receiptDebit, m_receiptCredit);
+}
+
+void BalancePanel::showSums(Currency otherDebit, Currency otherCredit, Currency depositDebit, Currency depositCredit)
+{
     const Currency amounts[3][3] = {
-        { m_otherDebit, m_otherCredit, m_otherDebit - m_otherCredit },
-        { m_receiptDebit, m_receiptCredit, m_receiptDebit - m_receiptCredit },
-        { m_otherDebit + m_receiptDebit, m_otherCredit + m_receiptCredit,
-            (m_otherDebit + m_receiptDebit) - (m_otherCredit + m_receiptCredit) },
+        { otherDebit, otherCredit, otherDebit - otherCredit },
+        { depositDebit, depositCredit, depositDebit - depositCredit },
+        { otherDebit + depositDebit, otherCredit + depositCredit,
+            (otherDebit + depositDebit) - (otherCredit + depositCredit) },
     };
     for (int r = 0; r < 3; ++r)
         for (int c = 0; c < 3; ++c)

@@ -56,8 +56,10 @@ const std::vector<TableSpec> &schema()
                 { u"ack", FieldType::Text, 40, false, 0 }, { u"ba", FieldType::Byte, 0, false, 0 },
                 { u"tutar", FieldType::Currency, 0, false, 0 },
                 { u"oto", FieldType::Long, 0, false, AutoIncrementField } },
-            // kodtarih serves the account listings and balances, which read one account's rows by date.
-            { { u"oto", u"oto", false, true, false }, { u"kodtarih", u"kod;tarih", false, false, false } } },
+            // kodtarih serves the account listings and balances, which read one account's rows by
+            // date; islemtarih the cash book, which reads the cash rows of a day and sums those before.
+            { { u"oto", u"oto", false, true, false }, { u"kodtarih", u"kod;tarih", false, false, false },
+                { u"islemtarih", u"islem;tarih;ba;tutar", false, false, false } } },
         { u"defter", u"Meslek Defteri ", u"Meslek Defteri ",
             { { u"sira", FieldType::Integer, 0, false, 0 }, { u"tarih", FieldType::Date, 0, false, 0 },
                 { u"islem", FieldType::Byte, 0, false, 0 }, { u"evrak", FieldType::Text, 8, false, 0 },
@@ -101,6 +103,25 @@ bool createTable(Database &db, const TableSpec &spec)
     return true;
 }
 
+// A file made before an index joined the schema gets it when it opens: the lookup indexes change
+// no row and no field.
+bool addMissingIndexes(Database &db)
+{
+    for (const TableSpec &table : schema())
+        for (const IndexSpec &index : table.indexes) {
+            if (index.unique || index.primary)
+                continue;
+            QStringList columns;
+            for (const QString &column : QString::fromUtf16(index.fields).split(u';'))
+                columns << u'"' + column + u'"';
+            const QString tableName = QString::fromUtf16(table.name);
+            if (!db.run(QStringLiteral("CREATE INDEX IF NOT EXISTS \"%1_%2\" ON \"%1\" (%3)")
+                            .arg(tableName, QString::fromUtf16(index.name), columns.join(u','))))
+                return false;
+        }
+    return true;
+}
+
 } // namespace
 
 DataFiles &dataFiles()
@@ -132,7 +153,7 @@ bool OpenDataFiles()
         && RsOpen(*files.db, files.carkart, QStringLiteral("carkart"))
         && RsOpen(*files.db, files.carhar, QStringLiteral("carhar"))
         && RsOpen(*files.db, files.defter, QStringLiteral("defter"))
-        && RsOpen(*files.db, files.duzen, QStringLiteral("duzen"));
+        && RsOpen(*files.db, files.duzen, QStringLiteral("duzen")) && addMissingIndexes(*files.db);
 }
 
 bool CreateDataFiles()

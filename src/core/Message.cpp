@@ -27,6 +27,7 @@ bool show(Kind kind, const QString &text)
     if (kind == Kind::Question) {
         box.button(QMessageBox::Yes)->setText(QStringLiteral("&Evet"));
         box.button(QMessageBox::No)->setText(QStringLiteral("&Hayır"));
+        box.setDefaultButton(QMessageBox::No); // an Enter too many deletes nothing
     }
     return box.exec() == QMessageBox::Yes;
 }
@@ -41,6 +42,11 @@ void exclamation(const QString &text)
 void information(const QString &text)
 {
     show(Kind::Information, text);
+}
+
+void notice(const QString &text)
+{
+    show(Kind::Notice, text);
 }
 
 bool question(const QString &text)

@@ -8,13 +8,15 @@
 // responder that records the message and answers in place of a person.
 namespace Message {
 
-enum class Kind { Exclamation, Information, Question };
+enum class Kind { Exclamation, Information, Question, Notice };
 
 // Refusals and failures.
 void exclamation(const QString &text);
 // Notices.
 void information(const QString &text);
-// A Yes/No question; true for Yes.
+// A remark with the question icon and only an OK button ("Tutar Yazılmamış..").
+void notice(const QString &text);
+// A Yes/No question, "Hayır" by default; true for Yes.
 bool question(const QString &text);
 
 // Answers every following message instead of a box (an empty function restores the boxes).

@@ -50,9 +50,9 @@ template <typename Posting> bool change(Recordset &rs, qint64 oto, const Posting
     return RsUpdate(rs);
 }
 
-bool remove(Recordset &rs, qint64 oto)
+Recordset &table(PostingBook book)
 {
-    return oto > 0 && RsSeek(rs, otoIndex, oto) && RsDelete(rs);
+    return book == PostingBook::Accounts ? *dataFiles().carhar : *dataFiles().defter;
 }
 
 template <typename Posting> qint64 store(Recordset &rs, qint64 oto, const Posting &posting)
@@ -84,14 +84,14 @@ bool ChangeLedgerPosting(qint64 oto, const LedgerPosting &posting)
     return change(*dataFiles().defter, oto, posting);
 }
 
-bool DeleteAccountPosting(qint64 oto)
+bool PostingExists(PostingBook book, qint64 oto)
 {
-    return remove(*dataFiles().carhar, oto);
+    return oto > 0 && RsSeek(table(book), otoIndex, oto);
 }
 
-bool DeleteLedgerPosting(qint64 oto)
+bool DeletePosting(PostingBook book, qint64 oto)
 {
-    return remove(*dataFiles().defter, oto);
+    return PostingExists(book, oto) && RsDelete(table(book));
 }
 
 qint64 StoreAccountPosting(qint64 oto, const AccountPosting &posting)

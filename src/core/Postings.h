@@ -41,8 +41,10 @@ qint64 AddLedgerPosting(const LedgerPosting &posting);
 // False when no row has this oto or the engine refused the change.
 bool ChangeAccountPosting(qint64 oto, const AccountPosting &posting);
 bool ChangeLedgerPosting(qint64 oto, const LedgerPosting &posting);
-bool DeleteAccountPosting(qint64 oto);
-bool DeleteLedgerPosting(qint64 oto);
+// The two tables of postings, for what both share.
+enum class PostingBook { Accounts, Ledger };
+bool PostingExists(PostingBook book, qint64 oto);
+bool DeletePosting(PostingBook book, qint64 oto);
 // Stores a row: changes the row with this oto when there is one, adds it otherwise. Answers
 // the row's oto (0 on failure).
 qint64 StoreAccountPosting(qint64 oto, const AccountPosting &posting);

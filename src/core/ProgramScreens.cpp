@@ -1,6 +1,7 @@
 #include "core/ProgramScreens.h"
 
 #include "accounts/AccountCardsScreen.h"
+#include "accounts/AccountTransactionsScreen.h"
 #include "core/MainWindow.h"
 #include "core/SettingsScreen.h"
 #include "receipts/DepositScreen.h"
@@ -10,6 +11,7 @@
 void AddProgramScreens(MainWindow &window)
 {
     window.addScreen(QStringLiteral("mnucarkart"), [] { return new AccountCardsScreen; });
+    window.addScreen(QStringLiteral("mnucarhar"), [] { return new AccountTransactionsScreen; });
     window.addScreen(QStringLiteral("mnumkb"), [] { return new ReceiptScreen; });
     window.addScreen(QStringLiteral("mnuemanet"), [] { return new DepositScreen; });
     window.addScreen(QStringLiteral("mnudiz"), [] { return new LayoutDesignerScreen; });

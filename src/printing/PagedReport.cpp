@@ -116,9 +116,9 @@ int PagedReport::captionWidth() const
     return qMax(width, 0);
 }
 
-void PagedReport::printCaptionLine(const QString &caption, const QStringList &texts, bool bold)
+void PagedReport::printCaptionLine(const QString &caption, const QStringList &texts, bool bold, int align)
 {
-    m_prnx.Lprint(caption, captionWidth(), false, 1, bold);
+    m_prnx.Lprint(caption, captionWidth(), false, align, bold);
     int text = 0;
     const auto &columns = m_layout.columns;
     for (const ReportColumn &column : columns) {

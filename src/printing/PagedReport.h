@@ -56,8 +56,9 @@ public:
     // Pieces for lists that print on one page of their own.
     void printHeads();
     void printRules();
-    // caption over the unsummed columns, then a text under each summed column.
-    void printCaptionLine(const QString &caption, const QStringList &texts, bool bold = false);
+    // caption over the unsummed columns (right-aligned unless told), then a text under each
+    // summed column.
+    void printCaptionLine(const QString &caption, const QStringList &texts, bool bold = false, int align = 1);
     void printCells(const QVariantList &cells);
 
 private:

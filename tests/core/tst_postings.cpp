@@ -59,7 +59,7 @@ void TestPostings::addAnswersTheNewKey()
 {
     QCOMPARE(AddAccountPosting(cash(QStringLiteral("K1"), 100)), 1);
     QCOMPARE(AddAccountPosting(cash(QStringLiteral("K2"), 200, 0)), 2);
-    QVERIFY(DeleteAccountPosting(2));
+    QVERIFY(DeletePosting(PostingBook::Accounts, 2));
     QCOMPARE(AddAccountPosting(cash(QStringLiteral("K3"), 300)), 3); // keys are never used again
     QCOMPARE(accountRows(), QStringList({ "1:K1:1:1:1000000", "3:K3:1:1:3000000" }));
 }
@@ -79,9 +79,9 @@ void TestPostings::changeAndDeleteByKey()
     QVERIFY(ChangeAccountPosting(1, cash(QStringLiteral("K9"), 150, 0)));
     QVERIFY(!ChangeAccountPosting(7, cash(QStringLiteral("K7"), 1)));
     QVERIFY(!ChangeAccountPosting(0, cash(QStringLiteral("K0"), 1)));
-    QVERIFY(!DeleteAccountPosting(7));
+    QVERIFY(!DeletePosting(PostingBook::Accounts, 7));
     QCOMPARE(accountRows(), QStringList({ "1:K9:1:0:1500000", "2:K2:1:1:2000000" }));
-    QVERIFY(DeleteAccountPosting(1));
+    QVERIFY(DeletePosting(PostingBook::Accounts, 1));
     QCOMPARE(accountRows(), QStringList({ "2:K2:1:1:2000000" }));
 }
 
@@ -107,8 +107,8 @@ void TestPostings::ledgerRows()
                  QStringLiteral("r")),
         QStringList { "46091:500:K1:Danışma:10000000:2000000:100000:2000000" });
     QCOMPARE(StoreLedgerPosting(oto, row), oto);
-    QVERIFY(DeleteLedgerPosting(oto));
-    QVERIFY(!DeleteLedgerPosting(oto));
+    QVERIFY(DeletePosting(PostingBook::Ledger, oto));
+    QVERIFY(!DeletePosting(PostingBook::Ledger, oto));
 }
 
 QTEST_MAIN(TestPostings)

@@ -2,6 +2,7 @@
 
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
+#include "core/Postings.h"
 
 bool AddCard(const QString &code, const QString &title)
 {
@@ -14,12 +15,5 @@ bool AddCard(const QString &code, const QString &title)
 
 bool AddTransaction(const QString &code, int islem, int ba, Currency amount, QDate date)
 {
-    Recordset &rows = *dataFiles().carhar;
-    RsAddNew(rows);
-    FieldWrite(rows, QStringLiteral("kod"), code);
-    FieldWrite(rows, QStringLiteral("tarih"), date);
-    FieldWrite(rows, QStringLiteral("islem"), islem);
-    FieldWrite(rows, QStringLiteral("ba"), ba);
-    FieldWrite(rows, QStringLiteral("tutar"), QVariant::fromValue(amount));
-    return RsUpdate(rows);
+    return AddAccountPosting({ code, date, islem, QString(), QString(), ba, amount }) > 0;
 }
