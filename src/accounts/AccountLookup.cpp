@@ -146,11 +146,18 @@ void AttachAccountLookup(XText *field)
     field->setButton(true);
     field->setPicture(field->style()->standardIcon(QStyle::SP_FileDialogContentsView));
     QObject::connect(field, &XText::ButtonClick, field, [field] {
-        AccountLookup lookup(field->window());
-        lookup.exec();
-        if (!SelectedAccountCode().isEmpty())
-            field->setText(SelectedAccountCode());
-        SetSelectedAccountCode(QString());
+        const QString code = ChooseAccount(field->window());
+        if (!code.isEmpty())
+            field->setText(code);
         field->setFocus();
     });
+}
+
+QString ChooseAccount(QWidget *parent)
+{
+    AccountLookup lookup(parent);
+    lookup.exec();
+    const QString code = SelectedAccountCode();
+    SetSelectedAccountCode(QString());
+    return code;
 }

@@ -32,6 +32,10 @@ private:
 QString SelectedAccountCode();
 void SetSelectedAccountCode(const QString &code);
 
+// Shows the account lookup over parent and answers the chosen code ("" when none); the shared
+// selected code is empty again afterwards.
+QString ChooseAccount(QWidget *parent);
+
 // Gives an account-code field its lookup button (click or F2): the lookup opens over the
 // field's screen and a chosen code lands in the field.
 void AttachAccountLookup(XText *field);

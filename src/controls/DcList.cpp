@@ -585,8 +585,8 @@ bool DcList::eventFilter(QObject *watched, QEvent *event)
         auto *key = static_cast<QKeyEvent *>(event);
         if (watched == m_editor)
             return editorKey(key);
-        if (watched == m_view)
-            return listKey(key);
+        if (watched == m_view) // while editing, what reaches the list came up from the editor
+            return m_mode == 2 || listKey(key);
     } else if (watched == m_view && event->type() == QEvent::FocusIn && m_mode == 0) {
         m_mode = 1;
         emit ListFocused();

@@ -2,6 +2,7 @@
 
 #include "accounts/AccountCardsScreen.h"
 #include "accounts/AccountTransactionsScreen.h"
+#include "accounts/CashBookScreen.h"
 #include "core/MainWindow.h"
 #include "core/SettingsScreen.h"
 #include "receipts/DepositScreen.h"
@@ -12,6 +13,7 @@ void AddProgramScreens(MainWindow &window)
 {
     window.addScreen(QStringLiteral("mnucarkart"), [] { return new AccountCardsScreen; });
     window.addScreen(QStringLiteral("mnucarhar"), [] { return new AccountTransactionsScreen; });
+    window.addScreen(QStringLiteral("mnukasa"), [] { return new CashBookScreen; });
     window.addScreen(QStringLiteral("mnumkb"), [] { return new ReceiptScreen; });
     window.addScreen(QStringLiteral("mnuemanet"), [] { return new DepositScreen; });
     window.addScreen(QStringLiteral("mnudiz"), [] { return new LayoutDesignerScreen; });

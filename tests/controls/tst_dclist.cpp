@@ -94,6 +94,7 @@ private slots:
     void insertMakesRoomAtTheCurrentRow();
     void focusComingAndGoing();
     void suggestionFromAlanChanged();
+    void editorKeysAreReportedOnce();
 
 private:
     void typeRow(const QStringList &cells) { TypeGridRow(m_list, cells); }
@@ -768,6 +769,14 @@ void TestDcList::suggestionFromAlanChanged()
     QCOMPARE(m_list->editor()->text(), QStringLiteral("B"));
     enter();
     QCOMPARE(m_list->Caption(0, 3), QStringLiteral("B"));
+}
+
+void TestDcList::editorKeysAreReportedOnce()
+{
+    QTest::keyClick(view(), Qt::Key_Return);
+    QTest::keyClick(m_list->editor(), Qt::Key_F2);
+    QTest::keyClick(m_list->editor(), Qt::Key_F8);
+    QCOMPARE(m_screen->keys, QList<int>({ Qt::Key_F2, Qt::Key_F8 }));
 }
 
 QTEST_MAIN(TestDcList)

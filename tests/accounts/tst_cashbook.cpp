@@ -1,0 +1,390 @@
+#include "accounts/AccountLookup.h"
+#include "accounts/AccountTransactionsScreen.h"
+#include "accounts/CashBookScreen.h"
+#include "controls/DcCellEditor.h"
+#include "controls/DcList.h"
+#include "controls/XText.h"
+#include "core/Clock.h"
+#include "core/Postings.h"
+#include "money/AmountConventions.h"
+#include "printing/PrintSettings.h"
+#include "printing/PrinterSetupDialog.h"
+#include "testsupport/Books.h"
+#include "testsupport/ExpectedPage.h"
+#include "testsupport/QueryTexts.h"
+#include "testsupport/PrivateSpooler.h"
+#include "testsupport/ScreenFixture.h"
+#include "testsupport/Typing.h"
+
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QDate today(2026, 11, 16);
+
+void post(const QString &code, int islem, int ba, qint64 units, QDate date = today, const QString &ack = QString())
+{
+    QVERIFY(AddAccountPosting({ code, date, islem, QString(), ack, ba, Currency::fromUnits(units) }) > 0);
+}
+
+// Presses "&Tamam" of the printer settings dialog as soon as it is shown.
+void confirmPrinterSetup(QObject *context)
+{
+    QTimer::singleShot(0, context, [] {
+        auto *dialog = qobject_cast<PrinterSetupDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->findChild<QPushButton *>(QStringLiteral("Command4"))->click();
+    });
+}
+
+} // namespace
+
+class TestCashBook : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+    void opensOnToday();
+    void dayWithCarryOver();
+    void carryOverOnOneSide_data();
+    void carryOverOnOneSide();
+    void typedRowIsStored();
+    void bothSidesKeepTheCredit();
+    void rowWithoutAmountIsRefused();
+    void unknownCodeIsEmptied();
+    void lookupFillsTheCodeCell();
+    void invalidDateListsNothing();
+    void dayIsListedOncePerVisit();
+    void rowsCrossBetweenScreens();
+    void deleteAsksFirst();
+    void printedDayOnTheDotMatrixPrinter();
+    void printedDayAsPdf();
+
+private:
+    XText *date() const { return m_screen->findChild<XText *>(QStringLiteral("xtext1")); }
+    DcList *grid() const { return m_screen->findChild<DcList *>(QStringLiteral("dclist1")); }
+    QString position(int row, int column) const
+    {
+        return m_screen->findChild<QLabel *>(QStringLiteral("kasa_%1_%2").arg(row).arg(column))->accessibleName();
+    }
+    QStringList positions() const;
+    QString label(const char *name) const
+    {
+        return m_screen->findChild<QLabel *>(QString::fromLatin1(name))->accessibleName();
+    }
+    void enterGrid() { QTest::keyClick(date()->textBox(), Qt::Key_Return); }
+    QStringList shownRow(int row) const;
+    QStringList stored() const;
+    void seedDay();
+
+    std::unique_ptr<PrivateSpooler> m_spooler;
+    std::unique_ptr<ScreenFixture> m_kit;
+    QPointer<CashBookScreen> m_screen;
+};
+
+void TestCashBook::initTestCase()
+{
+    m_spooler = std::make_unique<PrivateSpooler>();
+    QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
+    QVERIFY(m_spooler->addQueue(QStringLiteral("kasa")));
+}
+
+void TestCashBook::cleanupTestCase()
+{
+    m_spooler.reset();
+}
+
+void TestCashBook::init()
+{
+    SetToday(today);
+    ResetPrintSettings();
+    m_kit = std::make_unique<ScreenFixture>();
+    QVERIFY(m_kit->isReady());
+    amountConventions().tlonda = 2;
+    QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk")));
+    QVERIFY(AddCard(QStringLiteral("K2"), QStringLiteral("Deniz Ltd.")));
+    m_screen = m_kit->open<CashBookScreen>("mnukasa", "Form7");
+    QVERIFY(m_screen);
+}
+
+void TestCashBook::cleanup()
+{
+    m_kit.reset();
+    SetToday(QDate());
+}
+
+QStringList TestCashBook::positions() const
+{
+    QStringList texts;
+    for (int row = 0; row < 3; ++row)
+        texts << position(row, 0) << position(row, 1);
+    return texts;
+}
+
+QStringList TestCashBook::shownRow(int row) const
+{
+    QStringList texts;
+    for (int column = 0; column < 6; ++column)
+        texts << grid()->view()->model()->index(row, column).data().toString();
+    return texts;
+}
+
+QStringList TestCashBook::stored() const
+{
+    return QueryTexts(QStringLiteral("SELECT kod || ':' || tarih || ':' || islem || ':' || evrak || ':' || ack || ':' || "
+                                     "ba || ':' || tutar AS r FROM carhar ORDER BY oto"),
+        QStringLiteral("r"));
+}
+
+// Carried: 500 in, 200 out, a receipt that is no cash; the day: 100 in, a 40 deposit out.
+void TestCashBook::seedDay()
+{
+    post(QStringLiteral("K1"), 1, 1, 500, today.addDays(-3));
+    post(QStringLiteral("K2"), 1, 0, 200, today.addDays(-1));
+    post(QStringLiteral("K1"), 2, 0, 7000, today.addDays(-2));
+    post(QStringLiteral("K1"), 1, 1, 100, today, QStringLiteral("Tahsilat"));
+    post(QStringLiteral("K2"), 3, 0, 40, today, QStringLiteral("Emanet iadesi"));
+    post(QStringLiteral("K2"), 1, 1, 900, today.addDays(1));
+}
+
+void TestCashBook::opensOnToday()
+{
+    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Kasa Defteri"));
+    QCOMPARE(date()->Text(), QStringLiteral("16.11.2026"));
+    QVERIFY(date()->textBox()->hasFocus());
+    QCOMPARE(date()->accessibleName(), QStringLiteral("İşlem Tarihi"));
+    QStringList captions;
+    for (int c = 0; c < 6; ++c)
+        captions << grid()->Baslik(c);
+    QCOMPARE(captions, QStringList({ "Kod", "Em.", "Evrak", "Açıklama", "Borç", "Alacak" }));
+    QVERIFY(!grid()->Editable());
+}
+
+void TestCashBook::dayWithCarryOver()
+{
+    seedDay();
+    enterGrid();
+    QVERIFY(grid()->Editable());
+    QCOMPARE(grid()->ListCount(), 3);
+    QCOMPARE(shownRow(0), QStringList({ "K2", "E", "", "Emanet iadesi", "", "40.00" }));
+    QCOMPARE(shownRow(1), QStringList({ "K1", "", "", "Tahsilat", "100.00", "" }));
+    QCOMPARE(shownRow(2), QStringList({ "", "", "", "", "", "" }));
+    QCOMPARE(positions(), QStringList({ "100.00", "40.00", "300.00", "", "360.00", "" }));
+    QCOMPARE(grid()->CurSat(), 2);
+}
+
+void TestCashBook::carryOverOnOneSide_data()
+{
+    QTest::addColumn<qint64>("in");
+    QTest::addColumn<qint64>("out");
+    QTest::addColumn<QStringList>("shown");
+    QTest::newRow("more in") << qint64(500) << qint64(200) << QStringList({ "", "", "300.00", "", "300.00", "" });
+    QTest::newRow("more out") << qint64(200) << qint64(500) << QStringList({ "", "", "", "300.00", "", "300.00" });
+    QTest::newRow("equal") << qint64(200) << qint64(200) << QStringList({ "", "", "", "", "", "" });
+}
+
+void TestCashBook::carryOverOnOneSide()
+{
+    QFETCH(qint64, in);
+    QFETCH(qint64, out);
+    QFETCH(QStringList, shown);
+    post(QStringLiteral("K1"), 1, 1, in, today.addDays(-5));
+    post(QStringLiteral("K1"), 3, 0, out, today.addDays(-4));
+    enterGrid();
+    QCOMPARE(grid()->ListCount(), 1); // a day without movements: the empty row alone
+    QCOMPARE(positions(), shown);
+}
+
+void TestCashBook::typedRowIsStored()
+{
+    post(QStringLiteral("K1"), 2, 0, 1000, today.addDays(-10));
+    enterGrid();
+    TypeGridRow(grid(), { "K1" });
+    QCOMPARE(label("cariUnvan"), QStringLiteral("Kaya Hukuk"));
+    QCOMPARE(label("cariBakiye"), QStringLiteral("1,000.00"));
+    for (const QString &cell : QStringList { "e", "F1", "Nakit ödeme", "250", "" }) {
+        typeKeys(grid()->editor(), cell);
+        QTest::keyClick(grid()->editor(), Qt::Key_Return);
+    }
+    QCOMPARE(stored().last(), QStringLiteral("K1:46342:3:F1:Nakit ödeme:1:2500000"));
+    QCOMPARE(grid()->Caption(0, CashBookScreen::Oto), QStringLiteral("2"));
+    QCOMPARE(grid()->Caption(0, CashBookScreen::Em), QStringLiteral("E"));
+    QCOMPARE(grid()->ListCount(), 2);
+    QCOMPARE(positions(), QStringList({ "250.00", "", "", "", "250.00", "" }));
+    QVERIFY(m_kit->messages().entries().isEmpty());
+}
+
+void TestCashBook::bothSidesKeepTheCredit()
+{
+    enterGrid();
+    TypeGridRow(grid(), { "K2", "x", "", "", "100", "30" });
+    QCOMPARE(stored(), QStringList { "K2:46342:1:::0:300000" });
+    QCOMPARE(grid()->Caption(0, CashBookScreen::Borc), QStringLiteral("0"));
+    QCOMPARE(shownRow(0).mid(4), QStringList({ "", "30.00" }));
+    QCOMPARE(positions(), QStringList({ "", "30.00", "", "", "", "30.00" }));
+}
+
+void TestCashBook::rowWithoutAmountIsRefused()
+{
+    enterGrid();
+    TypeGridRow(grid(), { "K2", "", "", "Boş", "", "" });
+    QCOMPARE(m_kit->messages().texts(), QStringList { "Tutar Yazılmamış.." });
+    QCOMPARE(m_kit->messages().entries().first().kind, Message::Kind::Notice);
+    QVERIFY(stored().isEmpty());
+}
+
+void TestCashBook::unknownCodeIsEmptied()
+{
+    enterGrid();
+    TypeGridRow(grid(), { "X9" });
+    QCOMPARE(grid()->Text(CashBookScreen::Kod), QString());
+    QCOMPARE(grid()->CurrentCol(), 1);
+    QCOMPARE(label("cariKod"), QString());
+}
+
+void TestCashBook::lookupFillsTheCodeCell()
+{
+    enterGrid();
+    QTest::keyClick(grid()->view(), Qt::Key_Return);
+    QTimer::singleShot(0, this, [] {
+        auto *lookup = qobject_cast<AccountLookup *>(QApplication::activeModalWidget());
+        QVERIFY(lookup);
+        auto *cards = lookup->findChild<DcList *>(QStringLiteral("dclist1"));
+        QVERIFY(cards->FindByName(QStringLiteral("kod"), QStringLiteral("K2")));
+        // Chosen from inside the dialog's own event loop, which may not run yet while it shows.
+        QTimer::singleShot(0, lookup, [lookup] { lookup->choose(); });
+    });
+    QTest::keyClick(grid()->editor(), Qt::Key_F2);
+    QCOMPARE(grid()->editor()->text(), QStringLiteral("K2"));
+    QCOMPARE(SelectedAccountCode(), QString());
+    QCOMPARE(m_kit->window().focusWidget(), grid()->editor()); // where the window gives the keyboard back
+}
+
+void TestCashBook::invalidDateListsNothing()
+{
+    post(QStringLiteral("K1"), 1, 1, 100);
+    date()->setText(QStringLiteral("31.02.2026"));
+    enterGrid();
+    QCOMPARE(m_kit->messages().texts(), QStringList { "Hatalı Tarih.." });
+    QVERIFY(!grid()->Editable());
+    QCOMPARE(grid()->ListCount(), 0);
+}
+
+void TestCashBook::dayIsListedOncePerVisit()
+{
+    enterGrid();
+    post(QStringLiteral("K1"), 1, 1, 100); // another screen posts meanwhile
+    TypeGridRow(grid(), { "K2", "", "", "", "5", "" }); // back from the editor: no new listing
+    QCOMPARE(grid()->ListCount(), 2);
+    QTest::keyClick(grid()->view(), Qt::Key_Escape);
+    QVERIFY(date()->textBox()->hasFocus());
+    enterGrid(); // a new visit lists the day again
+    QCOMPARE(grid()->ListCount(), 3);
+}
+
+void TestCashBook::rowsCrossBetweenScreens()
+{
+    post(QStringLiteral("K1"), 3, 1, 120); // a deposit receipt's posting
+    enterGrid();
+    QCOMPARE(shownRow(0), QStringList({ "K1", "E", "", "", "120.00", "" }));
+    TypeGridRow(grid(), { "K1", "", "", "Nakit", "", "45" });
+    auto *accounts = m_kit->open<AccountTransactionsScreen>("mnucarhar", "Form4");
+    QVERIFY(accounts);
+    auto *code = accounts->findChild<XText *>(QStringLiteral("xtext1"));
+    TypeIntoField(code, QStringLiteral("K1"));
+    QTest::keyClick(code->textBox(), Qt::Key_Return);
+    auto *rows = accounts->findChild<DcList *>(QStringLiteral("dclist1"));
+    QCOMPARE(rows->ListCount(), 3);
+    QCOMPARE(rows->Caption(0, AccountTransactionsScreen::Islem), QStringLiteral("1-Nakit"));
+    QCOMPARE(rows->Caption(0, AccountTransactionsScreen::Ba), QStringLiteral("B")); // cash out: the account is debited
+    QCOMPARE(rows->Caption(1, AccountTransactionsScreen::Islem), QStringLiteral("3-Emanet"));
+    QCOMPARE(rows->Caption(1, AccountTransactionsScreen::Ba), QStringLiteral("A"));
+}
+
+void TestCashBook::deleteAsksFirst()
+{
+    seedDay();
+    enterGrid();
+    grid()->ChngSat(1);
+    m_kit->messages().answerNext(true);
+    QTest::keyClick(grid()->view(), Qt::Key_Delete);
+    QCOMPARE(m_kit->messages().texts(), QStringList { "Hareket Silinecek Eminmisiniz ?" });
+    QCOMPARE(grid()->ListCount(), 2);
+    QCOMPARE(positions(), QStringList({ "", "40.00", "300.00", "", "260.00", "" }));
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "5" });
+}
+
+void TestCashBook::printedDayOnTheDotMatrixPrinter()
+{
+    seedDay();
+    enterGrid();
+    const QByteArray before = m_spooler->received();
+    printSettings().dotMatrix = true;
+    confirmPrinterSetup(this);
+    QTest::keyClick(grid()->view(), Qt::Key_F8);
+
+    ExpectedRawPage page;
+    const auto rule = [&page] {
+        page.rule(8).gap().rule(1).gap().rule(8).gap().rule(35).gap().rule(11).gap().rule(11).endLine();
+    };
+    const auto line = [&page](const QString &code, const QString &e, const QString &text, const QString &in,
+                          const QString &out) {
+        page.field(code, 8).gap().field(e, 1).gap().field(QString(), 8).gap().field(text, 35).gap();
+        page.field(in, 11, 1).gap().field(out, 11, 1).endLine();
+    };
+    const auto total = [&page](const QString &caption, const QString &in, const QString &out) {
+        page.field(caption, 55).gap().field(in, 11, 1).gap().field(out, 11, 1).endLine();
+    };
+    page.field(QStringLiteral(" "), 1).endLine();
+    page.bold(QStringLiteral("Kasa Defteri"), 80, 2).endLine();
+    page.field(QStringLiteral("Tarih :"), 10, 1).field(QStringLiteral("16.11.2026"), 12).endLine();
+    page.field(QStringLiteral(" "), 1).endLine();
+    page.bold(QStringLiteral("Cari"), 8).gap().bold(QStringLiteral("E"), 1).gap().bold(QStringLiteral("Evrak"), 8).gap();
+    page.bold(QStringLiteral("Açıklama"), 35).gap().bold(QStringLiteral("Borç"), 11).gap();
+    page.bold(QStringLiteral("Alacak"), 11).endLine();
+    rule();
+    line(QStringLiteral("K2"), QStringLiteral("E"), QStringLiteral("Emanet iadesi"), QString(), QStringLiteral("40.00"));
+    line(QStringLiteral("K1"), QString(), QStringLiteral("Tahsilat"), QStringLiteral("100.00"), QString());
+    line(QString(), QString(), QString(), QString(), QString());
+    rule();
+    total(QStringLiteral("TOPLAM:"), QStringLiteral("100.00"), QStringLiteral("40.00"));
+    total(QStringLiteral("DEVREDEN:"), QStringLiteral("300.00"), QString());
+    total(QStringLiteral("GENEL TOPLAM:"), QStringLiteral("360.00"), QString());
+    rule();
+    page.endPage(66);
+    QTRY_VERIFY_WITH_TIMEOUT(m_spooler->received().size() - before.size() >= page.bytes().size(), 20000);
+    const QString difference = FirstDifference(m_spooler->received().mid(before.size()), page.bytes());
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("Kasa Defteri")));
+}
+
+void TestCashBook::printedDayAsPdf()
+{
+    seedDay();
+    enterGrid();
+    QTemporaryDir dir;
+    printSettings().dotMatrix = false;
+    printSettings().target = PrintSettings::GraphicTarget::PdfFile;
+    printSettings().pdfFile = dir.filePath(QStringLiteral("kasa.pdf"));
+    confirmPrinterSetup(this);
+    m_screen->findChild<QPushButton *>(QStringLiteral("yazdir"))->click();
+    QProcess text;
+    text.start(QStringLiteral("pdftotext"), { QStringLiteral("-layout"), printSettings().pdfFile, QStringLiteral("-") });
+    QVERIFY(text.waitForFinished(20000));
+    const QString pdf = QString::fromUtf8(text.readAllStandardOutput());
+    for (const char *expected : { "Kasa Defteri", "Tarih :", "16.11.2026", "Açıklama", "Emanet iadesi", "Tahsilat",
+             "TOPLAM:", "DEVREDEN:", "GENEL TOPLAM:", "360.00" })
+        QVERIFY2(pdf.contains(QString::fromUtf8(expected)), qPrintable(pdf));
+    QCOMPARE(pdf.count(u'\f'), 1);
+}
+
+QTEST_MAIN(TestCashBook)
+#include "tst_cashbook.moc"
