@@ -42,6 +42,7 @@ test: test-plain test-asan
 bench: build
 	$(BUILD)/bench/bench_datastore
 	$(BUILD)/bench/bench_dclist
+	$(BUILD)/bench/bench_accounts
 
 format:
 	find src tests bench -name '*.cpp' -o -name '*.h' | xargs clang-format -i

@@ -1,11 +1,12 @@
-// The data store at the size of a busy practice's lifetime: 1,000,000 account transactions over
-// 10,000 accounts. Prints medians of the access layer's everyday work, and the general
+// The data store on the synthetic book. Prints medians of the access layer's everyday work, and the general
 // debit/credit aggregate through QueryOpen beside the same statement on the raw engine.
 
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "core/SqlFunctions.h"
 #include "money/DayNumber.h"
+
+#include "SyntheticBook.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -21,70 +22,7 @@
 
 namespace {
 
-constexpr int accounts = 10000;
-constexpr int transactions = 1000000;
-constexpr int bigAccountRows = 30000;
-
-QString accountCode(int i)
-{
-    return QStringLiteral("K%1").arg(i, 5, 10, QLatin1Char('0'));
-}
-
-double medianMicroseconds(int runs, const std::function<void()> &work)
-{
-    std::vector<double> times;
-    for (int i = 0; i < runs; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        times.push_back(double(timer.nsecsElapsed()) / 1000.0);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
-
-bool run(sqlite3 *db, const char *sql)
-{
-    return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
-// The synthetic book, written straight through the engine in one transaction.
-bool fillBook(sqlite3 *db)
-{
-    std::mt19937 random(20261123);
-    std::uniform_int_distribution<int> account(1, accounts - 1);
-    std::uniform_int_distribution<int> day(int(DayNumber(QDate(2020, 1, 1))), int(DayNumber(QDate(2026, 12, 31))));
-    std::uniform_int_distribution<int> side(0, 1);
-    std::uniform_int_distribution<qint64> amount(1, 50000000);
-    run(db, "BEGIN");
-    sqlite3_stmt *card = nullptr;
-    sqlite3_prepare_v2(db, "INSERT INTO carkart (kod, unv) VALUES (?1, ?2)", -1, &card, nullptr);
-    for (int i = 0; i < accounts; ++i) {
-        const QByteArray code = accountCode(i).toUtf8();
-        const QByteArray title = QStringLiteral("Müşteri %1").arg(i).toUtf8();
-        sqlite3_bind_text(card, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
-        sqlite3_bind_text(card, 2, title.constData(), int(title.size()), SQLITE_TRANSIENT);
-        sqlite3_step(card);
-        sqlite3_reset(card);
-    }
-    sqlite3_finalize(card);
-    sqlite3_stmt *row = nullptr;
-    sqlite3_prepare_v2(db,
-        "INSERT INTO carhar (kod, tarih, islem, evrak, ack, ba, tutar) VALUES (?1, ?2, 2, 'E1', 'Danışmanlık', ?3, ?4)",
-        -1, &row, nullptr);
-    for (int i = 0; i < transactions; ++i) {
-        const QByteArray code = accountCode(i < bigAccountRows ? 0 : account(random)).toUtf8();
-        sqlite3_bind_text(row, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
-        sqlite3_bind_int64(row, 2, day(random));
-        sqlite3_bind_int(row, 3, side(random));
-        sqlite3_bind_int64(row, 4, amount(random));
-        if (sqlite3_step(row) != SQLITE_DONE)
-            return false;
-        sqlite3_reset(row);
-    }
-    sqlite3_finalize(row);
-    return run(db, "COMMIT") && run(db, "ANALYZE");
-}
+using namespace SyntheticBook;
 
 const QString aggregateSql = QStringLiteral(
     "SELECT carhar.kod, sum(carhar.tutar * (carhar.ba = 0)) AS brctop, sum(carhar.tutar * (carhar.ba <> 0)) AS alatop "
@@ -140,7 +78,7 @@ int main(int argc, char *argv[])
     }
     QElapsedTimer fillTimer;
     fillTimer.start();
-    if (!fillBook(dataFiles().db->handle())) {
+    if (!fill(dataFiles().db->handle())) {
         std::fprintf(stderr, "cannot fill the book\n");
         return 1;
     }

@@ -84,6 +84,11 @@ AccountTransactionsScreen::AccountTransactionsScreen(QWidget *parent)
     connect(list(), &DcList::AlanChanged, this, &AccountTransactionsScreen::columnReached);
     connect(list(), &DcList::OnKosulVar, this, &AccountTransactionsScreen::checkValue);
     connect(list(), &DcList::KeyDown, this, &AccountTransactionsScreen::listKey);
+    // A row put in between (Insert) moves the rows below it: their sums follow.
+    connect(list()->view()->model(), &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &, int first) {
+        if (!m_listing)
+            recompute(first);
+    });
     connect(list(), &DcList::ChangeEditMode, m_typePanel, [this](bool editing) {
         if (!editing)
             m_typePanel->hide();
@@ -151,6 +156,7 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
 {
     QApplication::processEvents();
     DcList *grid = list();
+    m_listing = true;
     grid->Clear();
     std::unique_ptr<Recordset> rows;
     if (QueryOpen(*dataFiles().db, rows,
@@ -169,25 +175,30 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
         }
     }
     endListing();
-    recompute();
+    m_listing = false;
+    recompute(0);
 }
 
-// The running balance after every row, and the panel. A row's side is its B/A cell, its kind
-// the type it starts with ("3" is a deposit).
-void AccountTransactionsScreen::recompute()
+// The running balance after every row from fromRow on, and the panel. A row's side is its B/A
+// cell, its kind the type it starts with ("3" is a deposit). The sums after the rows before
+// fromRow are kept, so a row stored at the end costs one step, not a walk over the account.
+void AccountTransactionsScreen::recompute(int fromRow)
 {
-    Currency debitOther, creditOther, debitDeposit, creditDeposit;
     DcList *grid = list();
-    for (int row = 0; row < grid->ListCount(); ++row) {
+    fromRow = qBound(0, fromRow, int(m_running.size()));
+    m_running.resize(size_t(grid->ListCount()));
+    Sums sums = fromRow > 0 ? m_running[size_t(fromRow - 1)] : Sums();
+    for (int row = fromRow; row < grid->ListCount(); ++row) {
         const bool deposit = typeCode(grid->Caption(row, Islem)) == 3;
         const Currency amount = amountAt(row, Tutar);
         if (grid->Caption(row, Ba) == u"B")
-            (deposit ? debitDeposit : debitOther) += amount;
+            (deposit ? sums.debitDeposit : sums.debitOther) += amount;
         else
-            (deposit ? creditDeposit : creditOther) += amount;
-        grid->setCaption(row, Bakiye, ((debitOther + debitDeposit) - (creditOther + creditDeposit)).toString());
+            (deposit ? sums.creditDeposit : sums.creditOther) += amount;
+        m_running[size_t(row)] = sums;
+        grid->setCaption(row, Bakiye, sums.balance().toString());
     }
-    m_balance->showSums(debitOther, creditOther, debitDeposit, creditDeposit);
+    m_balance->showSums(sums.debitOther, sums.creditOther, sums.debitDeposit, sums.creditDeposit);
 }
 
 void AccountTransactionsScreen::storeRow(int)

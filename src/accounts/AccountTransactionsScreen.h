@@ -2,6 +2,8 @@
 
 #include "controls/PostingGridScreen.h"
 
+#include <vector>
+
 class BalancePanel;
 class QFrame;
 class ValueLabel;
@@ -25,7 +27,7 @@ public:
 protected:
     void storeRow(int row) override;
     Currency rowAmount(int row) const override;
-    void recompute() override;
+    void recompute(int fromRow) override;
 
 private:
     void defineColumns();
@@ -41,6 +43,14 @@ private:
     ValueLabel *m_type;
     QFrame *m_typePanel;
     BalancePanel *m_balance;
+    // The four sums after each row: debit and credit of other and of deposit rows.
+    struct Sums
+    {
+        Currency debitOther, creditOther, debitDeposit, creditDeposit;
+        Currency balance() const { return (debitOther + debitDeposit) - (creditOther + creditDeposit); }
+    };
+    std::vector<Sums> m_running;
+    bool m_listing = false;
 };
 
 // The label of a transaction type: "0-Devir" … "9-Diğer"; "" outside 0-9.

@@ -231,7 +231,8 @@ void CashBookScreen::showPosition()
             m_position[r][c]->setValue(FormatAmount(amounts[r][c]));
 }
 
-void CashBookScreen::recompute()
+// A day holds few rows: the totals are summed anew.
+void CashBookScreen::recompute(int)
 {
     m_dayDebit = m_dayCredit = Currency();
     for (int row = 0; row < list()->ListCount(); ++row) {

@@ -19,12 +19,14 @@ public:
     explicit CashBookScreen(QWidget *parent = nullptr);
     ~CashBookScreen() override;
 
+    // Lists a day: its cash rows, the carry-over of the days before and the cash position.
+    void listDay(QDate day);
     void print();
 
 protected:
     void storeRow(int row) override;
     Currency rowAmount(int row) const override;
-    void recompute() override;
+    void recompute(int fromRow) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -32,7 +34,6 @@ private:
     QWidget *makePositionBox();
     QWidget *makeAccountBox();
     void gridEntered();
-    void listDay(QDate day);
     void readCarryOver(QDate day);
     void showPosition();
     void showAccount(const QString &code);

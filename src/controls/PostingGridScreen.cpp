@@ -26,7 +26,7 @@ void PostingGridScreen::rowStored(qint64 oto)
 {
     m_list->setText(m_keyColumn, QString::number(oto));
     m_list->OkUpdateData();
-    recompute();
+    recompute(m_list->CurSat());
     m_list->MoveNext();
 }
 
@@ -55,6 +55,6 @@ void PostingGridScreen::deleteRow(int row)
         return;
     if (DeletePosting(m_book, oto)) {
         m_list->OperasyonDeleteReturn(true, row);
-        recompute();
+        recompute(row);
     }
 }

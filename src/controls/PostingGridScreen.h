@@ -34,8 +34,9 @@ protected:
     virtual void storeRow(int row) = 0;
     // The amount that makes a row worth deleting (nothing happens when it is not above 0).
     virtual Currency rowAmount(int row) const = 0;
-    // Totals and balances after a change of the rows.
-    virtual void recompute() = 0;
+    // Totals and balances after a change of the rows from fromRow on (the rows before it are as
+    // they were).
+    virtual void recompute(int fromRow) = 0;
 
 private:
     void deleteRow(int row);

@@ -23,6 +23,7 @@ private slots:
     void opensFromTheMenu();
     void listsInOrderWithRunningBalance();
     void typedRowIsStoredThenEdited();
+    void editAfterAnInsertedRow();
     void typedValuesAreNormalised_data();
     void typedValuesAreNormalised();
     void typePanelFillsTheCell();
@@ -145,6 +146,23 @@ void TestAccountTransactions::typedRowIsStoredThenEdited()
         QStringList { "3000000:1" }); // the same row, changed
     QCOMPARE(grid()->Caption(0, AccountTransactionsScreen::Bakiye), QStringLiteral("300"));
     QCOMPARE(m_kit->messages().entries().size(), 0);
+}
+
+void TestAccountTransactions::editAfterAnInsertedRow()
+{
+    QVERIFY(AddTransaction(QStringLiteral("K1"), 1, 0, Currency::fromUnits(100), QDate(2026, 11, 5)));
+    QVERIFY(AddTransaction(QStringLiteral("K1"), 1, 0, Currency::fromUnits(50), QDate(2026, 11, 6)));
+    chooseAccount(QStringLiteral("K1"));
+    grid()->ChngSat(0);
+    QTest::keyClick(grid()->view(), Qt::Key_Insert); // an empty row on top moves the others down
+    grid()->ChngSat(2);
+    QTest::keyClick(grid()->view(), Qt::Key_Return);
+    for (int cell = 0; cell < 5; ++cell)
+        QTest::keyClick(grid()->editor(), Qt::Key_Return);
+    grid()->editor()->clear();
+    typeCell(QStringLiteral("70"));
+    QCOMPARE(column(AccountTransactionsScreen::Bakiye), QStringList({ "", "100.00", "170.00", "170.00" }));
+    QCOMPARE(panel(2, 2), QStringLiteral("170.00"));
 }
 
 void TestAccountTransactions::typedValuesAreNormalised_data()

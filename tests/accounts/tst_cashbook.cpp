@@ -284,6 +284,9 @@ void TestCashBook::dayIsListedOncePerVisit()
     post(QStringLiteral("K1"), 1, 1, 100); // another screen posts meanwhile
     TypeGridRow(grid(), { "K2", "", "", "", "5", "" }); // back from the editor: no new listing
     QCOMPARE(grid()->ListCount(), 2);
+    grid()->view()->clearFocus(); // away to another window and back
+    grid()->view()->setFocus();
+    QCOMPARE(grid()->ListCount(), 2);
     QTest::keyClick(grid()->view(), Qt::Key_Escape);
     QVERIFY(date()->textBox()->hasFocus());
     enterGrid(); // a new visit lists the day again

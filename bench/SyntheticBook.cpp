@@ -1,0 +1,81 @@
+#include "SyntheticBook.h"
+
+#include "money/DayNumber.h"
+
+#include <QElapsedTimer>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+namespace SyntheticBook {
+
+namespace {
+
+bool run(sqlite3 *db, const char *sql)
+{
+    return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+} // namespace
+
+QString accountCode(int i)
+{
+    return QStringLiteral("K%1").arg(i, 5, 10, QLatin1Char('0'));
+}
+
+bool fill(sqlite3 *db)
+{
+    std::mt19937 random(20261123);
+    std::uniform_int_distribution<int> account(1, accounts - 1);
+    std::uniform_int_distribution<int> day(int(DayNumber(QDate(2020, 1, 1))), int(DayNumber(QDate(2026, 12, 31))));
+    std::uniform_int_distribution<int> type(0, 9);
+    std::uniform_int_distribution<int> side(0, 1);
+    std::uniform_int_distribution<qint64> amount(1, 50000000);
+    run(db, "BEGIN");
+    sqlite3_stmt *card = nullptr;
+    sqlite3_prepare_v2(db, "INSERT INTO carkart (kod, unv) VALUES (?1, ?2)", -1, &card, nullptr);
+    for (int i = 0; i < accounts; ++i) {
+        const QByteArray code = accountCode(i).toUtf8();
+        const QByteArray title = QStringLiteral("Müşteri %1").arg(i).toUtf8();
+        sqlite3_bind_text(card, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(card, 2, title.constData(), int(title.size()), SQLITE_TRANSIENT);
+        sqlite3_step(card);
+        sqlite3_reset(card);
+    }
+    sqlite3_finalize(card);
+    sqlite3_stmt *row = nullptr;
+    sqlite3_prepare_v2(db,
+        "INSERT INTO carhar (kod, tarih, islem, evrak, ack, ba, tutar) VALUES (?1, ?2, ?3, 'E1', 'Danışmanlık', ?4, ?5)",
+        -1, &row, nullptr);
+    for (int i = 0; i < transactions; ++i) {
+        const QByteArray code = accountCode(i < bigAccountRows ? 0 : account(random)).toUtf8();
+        sqlite3_bind_text(row, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_int64(row, 2, day(random));
+        sqlite3_bind_int(row, 3, type(random));
+        sqlite3_bind_int(row, 4, side(random));
+        sqlite3_bind_int64(row, 5, amount(random));
+        if (sqlite3_step(row) != SQLITE_DONE)
+            return false;
+        sqlite3_reset(row);
+    }
+    sqlite3_finalize(row);
+    return run(db, "COMMIT") && run(db, "ANALYZE");
+}
+
+double medianMicroseconds(int runs, const std::function<void()> &work)
+{
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        times.push_back(double(timer.nsecsElapsed()) / 1000.0);
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+} // namespace SyntheticBook

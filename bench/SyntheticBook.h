@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+struct sqlite3;
+
+// The synthetic book of the benchmarks, the size of a busy practice's lifetime: 1,000,000
+// account transactions over 10,000 accounts and seven years, every transaction type, with one
+// account of 30,000 transactions. Fixed seed: every run builds the same book.
+namespace SyntheticBook {
+
+constexpr int accounts = 10000;
+constexpr int transactions = 1000000;
+constexpr int bigAccountRows = 30000;
+
+QString accountCode(int i);
+// Writes the book straight through the engine in one transaction; false on an engine error.
+bool fill(sqlite3 *db);
+// The median time of runs of work, in microseconds.
+double medianMicroseconds(int runs, const std::function<void()> &work);
+
+} // namespace SyntheticBook
