@@ -2,6 +2,7 @@
 #include "printing/GraphicGrid.h"
 #include "printing/PrintSettings.h"
 #include "printing/Prnx.h"
+#include "testsupport/ExpectedPage.h"
 #include "testsupport/RecordingRawChannel.h"
 
 #include <QProcess>
@@ -213,10 +214,7 @@ void TestPrnx::graphicPageAsPdf()
     prnx.SayfaBitti(true);
     prnx.ClosePrinter();
 
-    QProcess text;
-    text.start(QStringLiteral("pdftotext"), { QStringLiteral("-layout"), settings.pdfFile, QStringLiteral("-") });
-    QVERIFY(text.waitForFinished(20000));
-    const QString pages = QString::fromUtf8(text.readAllStandardOutput());
+    const QString pages = PdfText(settings.pdfFile);
     QVERIFY2(pages.contains(QStringLiteral("GENEL BORÇ ALACAK LİSTESİ")), qPrintable(pages));
     QVERIFY(pages.contains(QStringLiteral("Sayfa: 1")));
     QVERIFY(pages.contains(QStringLiteral("Şükrü Işık")));

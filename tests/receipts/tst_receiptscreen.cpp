@@ -10,6 +10,7 @@
 #include "printing/RawText.h"
 #include "receipts/DepositScreen.h"
 #include "receipts/ReceiptScreen.h"
+#include "testsupport/ExpectedPage.h"
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
@@ -352,11 +353,7 @@ void TestReceiptScreen::depositFormAsPdf()
         dialog->findChild<QPushButton *>(QStringLiteral("Command4"))->click();
     });
     QTest::keyClick(depositField(9)->textBox(), Qt::Key_F8);
-    QProcess text;
-    text.start(QStringLiteral("pdftotext"),
-        { QStringLiteral("-layout"), dir.filePath(QStringLiteral("emanet.pdf")), QStringLiteral("-") });
-    QVERIFY(text.waitForFinished(20000));
-    const QString page = QString::fromUtf8(text.readAllStandardOutput());
+    const QString page = PdfText(dir.filePath(QStringLiteral("emanet.pdf")));
     for (const char *expected : { "EMANET ALINDI MAKBUZU", "Müşteri A.Ş.", "AÇIKLAMA", "Dava masrafı", "2,500.00",
              "Yukarıda Tutarı Yazılı Bedel EMANETTEN Alınmıştır.." })
         QVERIFY2(page.contains(QString::fromUtf8(expected)), qPrintable(page));

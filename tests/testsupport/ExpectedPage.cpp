@@ -3,6 +3,7 @@
 #include "printing/RawText.h"
 
 #include <QList>
+#include <QProcess>
 
 ExpectedRawPage &ExpectedRawPage::field(const QString &text, int width, int align, bool bold)
 {
@@ -29,6 +30,15 @@ ExpectedRawPage &ExpectedRawPage::raw(const QByteArray &bytes)
 {
     m_bytes += bytes;
     return *this;
+}
+
+QString PdfText(const QString &path)
+{
+    QProcess text;
+    text.start(QStringLiteral("pdftotext"), { QStringLiteral("-layout"), path, QStringLiteral("-") });
+    if (!text.waitForFinished(20000))
+        return QString();
+    return QString::fromUtf8(text.readAllStandardOutput());
 }
 
 QString FirstDifference(const QByteArray &actual, const QByteArray &expected)

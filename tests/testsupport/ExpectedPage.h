@@ -25,6 +25,10 @@ private:
     int m_lines = 0; // lines ended on the current page
 };
 
+// The text of a PDF file as pdftotext lays it out, pages ended by form feeds ("" when it cannot
+// be read).
+QString PdfText(const QString &path);
+
 // Where two printouts part: "" when they are equal, else the number and both versions of the
 // first line that differs (lines end with CR LF), for a readable failure.
 QString FirstDifference(const QByteArray &actual, const QByteArray &expected);
