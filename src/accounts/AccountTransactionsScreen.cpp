@@ -58,6 +58,7 @@ AccountTransactionsScreen::AccountTransactionsScreen(QWidget *parent)
     m_title->setMinimumWidth(300);
     m_type->setObjectName(QStringLiteral("cariTip"));
     defineColumns();
+    fitListToColumns();
     list()->setAccessibleName(QStringLiteral("Hareketler"));
     list()->view()->setAccessibleName(QStringLiteral("Hareketler"));
     setKeyColumn(Oto);
@@ -77,7 +78,6 @@ AccountTransactionsScreen::AccountTransactionsScreen(QWidget *parent)
     page->addLayout(top);
     page->addWidget(list(), 1);
     page->addLayout(bottom);
-    resize(820, 560);
 
     connect(m_code, &XText::Left, this, &AccountTransactionsScreen::selectAccount);
     connect(m_code, &XText::KeyDown, this, &AccountTransactionsScreen::codeKey);

@@ -57,6 +57,7 @@ CashBookScreen::CashBookScreen(QWidget *parent)
     m_date->setValue(Today());
     m_date->textBox()->installEventFilter(this);
     defineColumns();
+    fitListToColumns();
     list()->setAccessibleName(QStringLiteral("Kasa Hareketleri"));
     list()->view()->setAccessibleName(QStringLiteral("Kasa Hareketleri"));
     setKeyColumn(Oto);
@@ -77,7 +78,6 @@ CashBookScreen::CashBookScreen(QWidget *parent)
     page->addLayout(top);
     page->addWidget(list(), 1);
     page->addLayout(bottom);
-    resize(820, 560);
 
     connect(m_date, &XText::KeyDown, this, &CashBookScreen::dateKey);
     connect(list(), &DcList::ListFocused, this, &CashBookScreen::gridEntered);

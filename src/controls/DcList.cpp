@@ -422,10 +422,13 @@ void DcList::AlanDegisti(int alan)
     emit AlanChanged(target);
 }
 
+// A suggestion: typing replaces it, Enter takes it.
 void DcList::SetTextBox(const QString &text)
 {
-    if (m_mode == 2)
+    if (m_mode == 2) {
         m_editor->setText(text);
+        m_editor->selectAll();
+    }
 }
 
 void DcList::setCellLock(bool on)

@@ -767,8 +767,12 @@ void TestDcList::suggestionFromAlanChanged()
     });
     typeRow({ "05", "Kira", "10" });
     QCOMPARE(m_list->editor()->text(), QStringLiteral("B"));
-    enter();
+    enter(); // Enter takes the suggestion
     QCOMPARE(m_list->Caption(0, 3), QStringLiteral("B"));
+    fillRows({ {} });
+    m_list->ChngSat(1);
+    typeRow({ "05", "Kira", "10", "a" }); // typing replaces it
+    QCOMPARE(m_list->Caption(1, 3), QStringLiteral("A"));
 }
 
 void TestDcList::editorKeysAreReportedOnce()
