@@ -88,11 +88,11 @@ int main(int argc, char *argv[])
     sqlite3_open_v2(DataFilePath().toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE, nullptr);
     registerSqlFunctions(raw);
 
-    AccountTransactionsScreen accounts;
-    accounts.show();
-    accounts.findChild<XText *>(QStringLiteral("xtext1"))->setText(accountCode(0));
-    auto *accountGrid = accounts.findChild<DcList *>(QStringLiteral("dclist1"));
-    const double listAccount = medianMicroseconds(5, [&] { accounts.selectAccount(); });
+    AccountTransactionsScreen accountScreen;
+    accountScreen.show();
+    accountScreen.findChild<XText *>(QStringLiteral("xtext1"))->setText(accountCode(0));
+    auto *accountGrid = accountScreen.findChild<DcList *>(QStringLiteral("dclist1"));
+    const double listAccount = medianMicroseconds(5, [&] { accountScreen.selectAccount(); });
     const int listed = accountGrid->ListCount() - 1;
     const double rawAccount = medianMicroseconds(5, [&] { readAll(raw, accountSql, accountCode(0)); });
 

@@ -61,7 +61,8 @@ void PostingGridScreen::deleteRow(int row)
         return;
     const qint64 oto = m_list->Caption(row, m_keyColumn).toLongLong();
     if (oto <= 0) {
-        Message::notice(QStringLiteral("İndex Bilgileri Yok.."));
+        if (!m_missingKeyNotice.isEmpty())
+            Message::notice(m_missingKeyNotice);
         return;
     }
     if (!PostingExists(m_book, oto) || !Message::question(m_deleteQuestion))

@@ -20,6 +20,8 @@ protected:
     // The key column (defined by the screen with the others) and the question a delete asks.
     void setKeyColumn(int column) { m_keyColumn = column; }
     void setDeleteQuestion(const QString &text) { m_deleteQuestion = text; }
+    // What a delete of a row without a key says ("" for nothing).
+    void setMissingKeyNotice(const QString &text) { m_missingKeyNotice = text; }
     // The key of the row being stored (0 for a new one).
     qint64 editedKey() const;
     // After a row was stored as oto: the key goes into the row, the grid takes the row, the
@@ -47,4 +49,5 @@ private:
     PostingBook m_book;
     int m_keyColumn = 0;
     QString m_deleteQuestion = QStringLiteral("Hareket Silinecek Eminmisiniz ?");
+    QString m_missingKeyNotice = QStringLiteral("İndex Bilgileri Yok..");
 };

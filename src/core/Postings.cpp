@@ -84,6 +84,24 @@ bool ChangeLedgerPosting(qint64 oto, const LedgerPosting &posting)
     return change(*dataFiles().defter, oto, posting);
 }
 
+bool ReadLedgerPosting(qint64 oto, LedgerPosting *p)
+{
+    Recordset &rs = *dataFiles().defter;
+    if (oto <= 0 || !RsSeek(rs, otoIndex, oto))
+        return false;
+    p->sira = FieldRead(rs, QStringLiteral("sira")).toInt();
+    p->tarih = FieldRead(rs, QStringLiteral("tarih")).toDate();
+    p->islem = FieldRead(rs, QStringLiteral("islem")).toInt();
+    p->evrak = FieldRead(rs, QStringLiteral("evrak")).toString();
+    p->cari = FieldRead(rs, QStringLiteral("cari")).toString();
+    p->ack = FieldRead(rs, QStringLiteral("ack")).toString();
+    p->brut = FieldRead(rs, QStringLiteral("brut")).value<Currency>();
+    p->stopaj = FieldRead(rs, QStringLiteral("stopaj")).value<Currency>();
+    p->fon = FieldRead(rs, QStringLiteral("fon")).value<Currency>();
+    p->kdv = FieldRead(rs, QStringLiteral("kdv")).value<Currency>();
+    return true;
+}
+
 bool PostingExists(PostingBook book, qint64 oto)
 {
     return oto > 0 && RsSeek(table(book), otoIndex, oto);

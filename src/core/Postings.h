@@ -41,6 +41,8 @@ qint64 AddLedgerPosting(const LedgerPosting &posting);
 // False when no row has this oto or the engine refused the change.
 bool ChangeAccountPosting(qint64 oto, const AccountPosting &posting);
 bool ChangeLedgerPosting(qint64 oto, const LedgerPosting &posting);
+// The stored ledger row with this oto; false when there is none.
+bool ReadLedgerPosting(qint64 oto, LedgerPosting *posting);
 // The two tables of postings, for what both share.
 enum class PostingBook { Accounts, Ledger };
 bool PostingExists(PostingBook book, qint64 oto);

@@ -5,6 +5,8 @@
 #include "accounts/CashBookScreen.h"
 #include "core/MainWindow.h"
 #include "core/SettingsScreen.h"
+#include "ledger/LedgerScreen.h"
+#include "ledger/MonthlyReportScreen.h"
 #include "receipts/DepositScreen.h"
 #include "receipts/LayoutDesignerScreen.h"
 #include "receipts/ReceiptScreen.h"
@@ -17,5 +19,7 @@ void AddProgramScreens(MainWindow &window)
     window.addScreen(QStringLiteral("mnumkb"), [] { return new ReceiptScreen; });
     window.addScreen(QStringLiteral("mnuemanet"), [] { return new DepositScreen; });
     window.addScreen(QStringLiteral("mnudiz"), [] { return new LayoutDesignerScreen; });
+    window.addScreen(QStringLiteral("mnusdef"), [] { return new LedgerScreen; });
+    window.addScreen(QStringLiteral("mnukdv"), [] { return new MonthlyReportScreen; });
     window.addScreen(QStringLiteral("mnuayarlar"), [] { return new SettingsScreen; });
 }

@@ -35,7 +35,10 @@ int compareTurkish(void *, int length1, const void *text1, int length2, const vo
     return turkishCollator().compare(QStringView(a.data(), endA), QStringView(b.data(), endB));
 }
 
-void yearOfDayNumber(sqlite3_context *context, int, sqlite3_value **arguments)
+enum class DatePart { Year, Month };
+
+// year(day number) and month(day number); Null for anything but a number.
+void partOfDayNumber(sqlite3_context *context, int, sqlite3_value **arguments)
 {
     const int type = sqlite3_value_numeric_type(arguments[0]);
     if (type != SQLITE_INTEGER && type != SQLITE_FLOAT) {
@@ -43,7 +46,15 @@ void yearOfDayNumber(sqlite3_context *context, int, sqlite3_value **arguments)
         return;
     }
     const QDate date = DateFromDayNumber(sqlite3_value_int64(arguments[0]));
-    sqlite3_result_int(context, date.year());
+    const auto part = *static_cast<const DatePart *>(sqlite3_user_data(context));
+    sqlite3_result_int(context, part == DatePart::Year ? date.year() : date.month());
+}
+
+bool addDatePart(sqlite3 *db, const char *name, const DatePart &part)
+{
+    return sqlite3_create_function_v2(db, name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+               const_cast<DatePart *>(&part), partOfDayNumber, nullptr, nullptr, nullptr)
+        == SQLITE_OK;
 }
 
 QString textArgument(sqlite3_value *value)
@@ -65,10 +76,10 @@ void startsWithTurkish(sqlite3_context *context, int, sqlite3_value **arguments)
 
 bool registerSqlFunctions(sqlite3 *db)
 {
+    static const DatePart year = DatePart::Year;
+    static const DatePart month = DatePart::Month;
     return sqlite3_create_collation_v2(db, "TR", SQLITE_UTF8, nullptr, compareTurkish, nullptr) == SQLITE_OK
-        && sqlite3_create_function_v2(
-               db, "year", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, yearOfDayNumber, nullptr, nullptr, nullptr)
-        == SQLITE_OK
+        && addDatePart(db, "year", year) && addDatePart(db, "month", month)
         && sqlite3_create_function_v2(db, "startsWith", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
                startsWithTurkish, nullptr, nullptr, nullptr)
         == SQLITE_OK;

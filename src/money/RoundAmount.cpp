@@ -17,3 +17,8 @@ Currency RoundAmount(double amount)
 {
     return RoundAmount(Currency::fromDouble(amount));
 }
+
+Currency PercentOf(Currency amount, float rate)
+{
+    return RoundAmount(amount.toDouble() * double(rate) / 100.0);
+}

@@ -6,3 +6,5 @@
 Currency RoundAmount(Currency amount);
 // Any other number is first converted to a Currency.
 Currency RoundAmount(double amount);
+// A percentage (a rate of the parameters) of an amount, rounded as amounts are.
+Currency PercentOf(Currency amount, float rate);

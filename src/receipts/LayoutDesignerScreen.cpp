@@ -34,7 +34,7 @@ QString entryText(int sira, int no, const QString &txt)
 } // namespace
 
 LayoutDesignerScreen::LayoutDesignerScreen(QWidget *parent)
-    : Screen(QStringLiteral("Form8"), QStringLiteral("Serbest Meslek Makbuz Dizaynı"), parent)
+    : Screen(QStringLiteral("Form14"), QStringLiteral("Serbest Meslek Makbuz Dizaynı"), parent)
     , m_items(new QComboBox(this))
     , m_rows(new QListWidget(this))
 {

@@ -2,11 +2,6 @@
 
 #include "money/RoundAmount.h"
 
-Currency PercentOf(Currency amount, float rate)
-{
-    return RoundAmount(amount.toDouble() * double(rate) / 100.0);
-}
-
 ReceiptAmounts FromGross(Currency gross, const ReceiptRates &rates, bool withhold, bool levy)
 {
     ReceiptAmounts amounts;

@@ -25,5 +25,4 @@ ReceiptAmounts FromGross(Currency gross, const ReceiptRates &rates, bool withhol
 // From a typed net fee: the gross is net × 100 / (100 − (stopaj + fon)), whatever is ticked,
 // and not rounded; the net keeps the typed value.
 ReceiptAmounts FromNet(Currency net, const ReceiptRates &rates, bool withhold, bool levy);
-// A percentage of an amount, rounded as amounts are.
-Currency PercentOf(Currency amount, float rate);
+

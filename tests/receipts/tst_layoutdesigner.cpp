@@ -41,7 +41,7 @@ void TestLayoutDesigner::init()
     m_folder = std::make_unique<TestDataFolder>();
     QVERIFY(m_folder->isReady());
     m_window = ShowProgramWindow();
-    m_screen = OpenFromMenu<LayoutDesignerScreen>(*m_window, "mnudiz", "Form8");
+    m_screen = OpenFromMenu<LayoutDesignerScreen>(*m_window, "mnudiz", "Form14");
     QVERIFY(m_screen);
 }
 

@@ -1,0 +1,98 @@
+#include "ledger/MonthlyReportScreen.h"
+
+#include "controls/DcList.h"
+#include "core/AccessLayer.h"
+#include "core/Clock.h"
+#include "core/DataFiles.h"
+#include "money/AmountConventions.h"
+#include "money/Currency.h"
+#include "money/DayNumber.h"
+
+#include <QHeaderView>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace {
+
+const char16_t *const months[] = { u"Ocak", u"Şubat", u"Mart", u"Nisan", u"Mayıs", u"Haziran", u"Temmuz", u"Ağustos",
+    u"Eylül", u"Ekim", u"Kasım", u"Aralık" };
+
+constexpr int totalRow = 13;
+
+Currency sum(Recordset &rows, const char *field)
+{
+    return Currency::fromRaw(FieldRead(rows, QString::fromLatin1(field)).toLongLong());
+}
+
+} // namespace
+
+MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
+    : Screen(QStringLiteral("Form9"), QStringLiteral("Kdv, Stopaj Raporu"), parent)
+    , m_list(new DcList(this))
+{
+    m_list->setObjectName(QStringLiteral("dclist1"));
+    m_list->setAccessibleName(QStringLiteral("Kdv, Stopaj Raporu"));
+    m_list->view()->setAccessibleName(QStringLiteral("Kdv, Stopaj Raporu"));
+    m_list->setZebra(true);
+    m_list->setEditable(false);
+    m_list->setScroll(0);
+    const int onda = amountConventions().tlonda;
+    const double limit = 999999999999.0;
+    m_list->Add(QStringLiteral("a"), QStringLiteral("donem"), QStringLiteral("Dönem"), 80, 12, 0, 0, 0);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("indmatrah"), QStringLiteral("İnd.Matrah"), 110, limit, 0, onda, 3);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("indkdv"), QStringLiteral("İnd.KDV"), 110, limit, 0, onda, 3);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("hesmatrah"), QStringLiteral("Hes.Matrah"), 110, limit, 0, onda, 3);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("heskdv"), QStringLiteral("Hes.KDV"), 110, limit, 0, onda, 3);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, limit, 0, onda, 3);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, limit, 0, onda, 3);
+    const int rowHeight = m_list->view()->verticalHeader()->defaultSectionSize();
+    m_list->setMinimumSize(80 + 6 * 110 + 4, (totalRow + 2) * rowHeight + 8);
+    auto *page = new QVBoxLayout(this);
+    page->addWidget(m_list);
+    setFocusChain({ m_list });
+    compute();
+}
+
+// The year's rows summed by month in the engine: income rows (islem 0) feed the computed base,
+// VAT, withholding and fund; every other row the deductible base and VAT. Rows without a date
+// have no month and stay out.
+void MonthlyReportScreen::compute()
+{
+    m_list->Clear();
+    for (int row = 0; row <= totalRow; ++row)
+        m_list->setCaption(m_list->CreateNewCaption(), Donem,
+            row < 12 ? QString::fromUtf16(months[row]) : row == totalRow ? QStringLiteral("TOPLAM") : QString());
+    const int year = Today().year();
+    std::array<std::array<Currency, 7>, 12> month {};
+    std::unique_ptr<Recordset> rows;
+    if (QueryOpen(*dataFiles().db, rows,
+            QStringLiteral("SELECT month(tarih) AS ay, islem = 0 AS gelir, sum(brut) AS brut, sum(stopaj) AS stopaj, "
+                           "sum(fon) AS fon, sum(kdv) AS kdv FROM defter WHERE tarih >= ?1 AND tarih <= ?2 "
+                           "GROUP BY ay, gelir"),
+            { DayNumber(QDate(year, 1, 1)), DayNumber(QDate(year, 12, 31)) })) {
+        do {
+            const int m = FieldRead(*rows, QStringLiteral("ay")).toInt() - 1;
+            if (m < 0 || m > 11)
+                continue;
+            if (FieldRead(*rows, QStringLiteral("gelir")).toInt() != 0) {
+                month[size_t(m)][HesMatrah] += sum(*rows, "brut");
+                month[size_t(m)][HesKdv] += sum(*rows, "kdv");
+                month[size_t(m)][Stopaj] += sum(*rows, "stopaj");
+                month[size_t(m)][Fon] += sum(*rows, "fon");
+            } else {
+                month[size_t(m)][IndMatrah] += sum(*rows, "brut");
+                month[size_t(m)][IndKdv] += sum(*rows, "kdv");
+            }
+        } while (RsNext(*rows));
+    }
+    std::array<Currency, 7> total {};
+    for (int m = 0; m < 12; ++m)
+        for (int c = IndMatrah; c <= Fon; ++c) {
+            m_list->setCaption(m, c, month[size_t(m)][size_t(c)].toString());
+            total[size_t(c)] += month[size_t(m)][size_t(c)];
+        }
+    for (int c = IndMatrah; c <= Fon; ++c)
+        m_list->setCaption(totalRow, c, total[size_t(c)].toString());
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "core/Screen.h"
+
+class DcList;
+
+// "Kdv, Stopaj Raporu" (Form9): for each month of the current calendar year the deductible base
+// and VAT of the expenses, the computed base and VAT of the income, and the withholding and
+// fund of the income, with the year's totals. Read-only.
+class MonthlyReportScreen : public Screen
+{
+    Q_OBJECT
+public:
+    enum Column { Donem = 0, IndMatrah, IndKdv, HesMatrah, HesKdv, Stopaj, Fon };
+
+    explicit MonthlyReportScreen(QWidget *parent = nullptr);
+
+    void compute();
+
+private:
+    DcList *m_list;
+};
