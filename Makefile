@@ -43,6 +43,7 @@ bench: build
 	$(BUILD)/bench/bench_datastore
 	$(BUILD)/bench/bench_dclist
 	$(BUILD)/bench/bench_accounts
+	$(BUILD)/bench/bench_ledger
 
 format:
 	find src tests bench -name '*.cpp' -o -name '*.h' | xargs clang-format -i

@@ -65,6 +65,38 @@ bool fill(sqlite3 *db)
     return run(db, "COMMIT") && run(db, "ANALYZE");
 }
 
+bool fillLedger(sqlite3 *db)
+{
+    std::mt19937 random(20261124);
+    std::uniform_int_distribution<int> day(int(DayNumber(QDate(2017, 1, 1))), int(DayNumber(QDate(2026, 12, 31))));
+    std::uniform_int_distribution<int> side(0, 1);
+    std::uniform_int_distribution<qint64> gross(1, 5000000);
+    std::uniform_int_distribution<int> account(0, accounts - 1);
+    run(db, "BEGIN");
+    sqlite3_stmt *row = nullptr;
+    sqlite3_prepare_v2(db,
+        "INSERT INTO defter (sira, tarih, islem, evrak, cari, ack, brut, stopaj, fon, kdv) "
+        "VALUES (0, ?1, ?2, 'M1', ?3, 'Danışmanlık', ?4, ?5, ?6, ?7)",
+        -1, &row, nullptr);
+    for (int i = 0; i < ledgerRows; ++i) {
+        const qint64 brut = gross(random) * 100;
+        const bool income = side(random) == 0;
+        const QByteArray code = accountCode(account(random)).toUtf8();
+        sqlite3_bind_int64(row, 1, day(random));
+        sqlite3_bind_int(row, 2, income ? 0 : 1);
+        sqlite3_bind_text(row, 3, code.constData(), int(code.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_int64(row, 4, brut);
+        sqlite3_bind_int64(row, 5, income ? brut / 5 : 0);
+        sqlite3_bind_int64(row, 6, income ? brut / 100 : 0);
+        sqlite3_bind_int64(row, 7, brut * 18 / 100);
+        if (sqlite3_step(row) != SQLITE_DONE)
+            return false;
+        sqlite3_reset(row);
+    }
+    sqlite3_finalize(row);
+    return run(db, "COMMIT") && run(db, "ANALYZE");
+}
+
 double medianMicroseconds(int runs, const std::function<void()> &work)
 {
     std::vector<double> times;

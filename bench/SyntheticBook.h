@@ -18,6 +18,9 @@ constexpr int bigAccountRows = 30000;
 QString accountCode(int i);
 // Writes the book straight through the engine in one transaction; false on an engine error.
 bool fill(sqlite3 *db);
+// Ten years of the professional's ledger, 2017 to 2026: rows of `defter`, income and expense.
+constexpr int ledgerRows = 100000;
+bool fillLedger(sqlite3 *db);
 // The median time of runs of work, in microseconds.
 double medianMicroseconds(int runs, const std::function<void()> &work);
 

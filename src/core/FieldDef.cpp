@@ -86,8 +86,10 @@ bool toDayNumber(const QVariant &value, qint64 *day)
         date = QDate::fromString(value.toString().trimmed(), QStringLiteral("dd.MM.yyyy"));
     else
         return toWholeNumber(value, day);
+    if (!date.isValid()) // no day number: the field stays empty
+        return false;
     *day = DayNumber(date);
-    return date.isValid();
+    return true;
 }
 
 } // namespace
