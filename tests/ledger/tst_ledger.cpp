@@ -111,6 +111,7 @@ void TestLedger::opensOnTheIncomeOfTheYear()
     m_ledger = m_kit->open<LedgerScreen>("mnusdef", "Form8");
     QVERIFY(m_ledger);
     QCOMPARE(m_ledger->windowTitle(), QStringLiteral("Serbest Meslek Defteri (Gelir)"));
+    QTest::qWait(250); // the rows wait for a short pause after opening
     QVERIFY(!m_ledger->findChild<QRadioButton *>(QStringLiteral("Option1_0"))->isEnabled());
     QCOMPARE(grid(m_ledger)->ListCount(), 0);
     QTRY_COMPARE(grid(m_ledger)->ListCount(), 3);
