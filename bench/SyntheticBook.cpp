@@ -1,5 +1,7 @@
 #include "SyntheticBook.h"
 
+#include "core/DataFiles.h"
+#include "core/SqlFunctions.h"
 #include "money/DayNumber.h"
 
 #include <QElapsedTimer>
@@ -7,6 +9,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <random>
 #include <vector>
 
@@ -95,6 +98,31 @@ bool fillLedger(sqlite3 *db)
     }
     sqlite3_finalize(row);
     return run(db, "COMMIT") && run(db, "ANALYZE");
+}
+
+sqlite3 *openBook(const QString &folder, bool (*fillBook)(sqlite3 *))
+{
+    SetProgramFolder(folder);
+    if (!CreateDataFiles() || !OpenDataFiles() || !fillBook(dataFiles().db->handle())) {
+        std::fprintf(stderr, "cannot build the book\n");
+        return nullptr;
+    }
+    sqlite3 *raw = nullptr;
+    sqlite3_open_v2(DataFilePath().toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE, nullptr);
+    registerSqlFunctions(raw);
+    return raw;
+}
+
+void printHeader()
+{
+    std::printf("%-50s %12s %12s %12s %9s %9s  %s\n", "work (median)", "program", "raw engine", "best plan", "/ raw",
+        "/ best", "target");
+}
+
+void printRow(const QString &what, double program, double raw, double best, const char *target)
+{
+    std::printf("%-50s %9.1f ms %9.1f ms %9.1f ms %7.2f x %7.2f x  %s\n", what.toUtf8().constData(), program / 1000,
+        raw / 1000, best / 1000, program / raw, program / best, target);
 }
 
 double medianMicroseconds(int runs, const std::function<void()> &work)

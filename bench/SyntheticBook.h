@@ -21,6 +21,13 @@ bool fill(sqlite3 *db);
 // Ten years of the professional's ledger, 2017 to 2026: rows of `defter`, income and expense.
 constexpr int ledgerRows = 100000;
 bool fillLedger(sqlite3 *db);
+// Makes the program's data file in folder, fills it, and answers a raw connection to it with
+// the program's SQL functions (nullptr on failure, after a message on stderr).
+sqlite3 *openBook(const QString &folder, bool (*fillBook)(sqlite3 *));
+// A table of timings: the program beside the raw engine doing the same reads and the engine's
+// best plan for the same result.
+void printHeader();
+void printRow(const QString &what, double program, double raw, double best, const char *target);
 // The median time of runs of work, in microseconds.
 double medianMicroseconds(int runs, const std::function<void()> &work);
 

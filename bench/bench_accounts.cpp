@@ -65,12 +65,6 @@ void press(QWidget *target, int key, const QString &text = QString())
     QApplication::sendEvent(target, &down);
 }
 
-void row(const char *what, double layer, double raw, double best, const char *target)
-{
-    std::printf("%-44s %9.1f ms %9.1f ms %9.1f ms %7.2f x %7.2f x  %s\n", what, layer / 1000, raw / 1000, best / 1000,
-        layer / raw, layer / best, target);
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
@@ -78,15 +72,10 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QTemporaryDir dir;
-    SetProgramFolder(dir.path());
-    if (!CreateDataFiles() || !OpenDataFiles() || !fill(dataFiles().db->handle())) {
-        std::fprintf(stderr, "cannot build the book\n");
+    sqlite3 *raw = openBook(dir.path(), fill);
+    if (!raw)
         return 1;
-    }
     amountConventions().tlonda = 2;
-    sqlite3 *raw = nullptr;
-    sqlite3_open_v2(DataFilePath().toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE, nullptr);
-    registerSqlFunctions(raw);
 
     AccountTransactionsScreen accountScreen;
     accountScreen.show();
@@ -144,13 +133,12 @@ int main(int argc, char *argv[])
     const double bestDay = rawDay; // the cash index already covers the carry-over sum
     sqlite3_close(raw);
 
-    std::printf("%-44s %12s %12s %12s %9s %9s  %s\n", "work (median)", "program", "raw engine", "best plan",
-        "/ raw", "/ best", "target");
-    row(QStringLiteral("Cari Hareketler: %1 rows listed").arg(listed).toUtf8().constData(), listAccount,
-        rawAccountBefore, bestAccount, "<= 150 ms");
-    row(QStringLiteral("Kasa Defteri: a day of %1 rows + carry-over").arg(dayRows).toUtf8().constData(), listDay,
-        rawDay, bestDay, "<= 100 ms");
-    row(QStringLiteral("Cari Hareketler: store a typed row (%1 stored)").arg(stored).toUtf8().constData(), store,
-        rawInsert, rawInsert, "<= 5 ms");
+    printHeader();
+    printRow(QStringLiteral("Cari Hareketler: %1 rows listed").arg(listed), listAccount, rawAccountBefore, bestAccount,
+        "<= 150 ms");
+    printRow(QStringLiteral("Kasa Defteri: a day of %1 rows + carry-over").arg(dayRows), listDay, rawDay, bestDay,
+        "<= 100 ms");
+    printRow(QStringLiteral("Cari Hareketler: store a typed row (%1 stored)").arg(stored), store, rawInsert, rawInsert,
+        "<= 5 ms");
     return 0;
 }

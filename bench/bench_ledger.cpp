@@ -45,12 +45,6 @@ const char *reportSql = "SELECT month(tarih) AS ay, islem = 0 AS gelir, sum(brut
                         "FROM defter WHERE tarih >= ?1 AND tarih <= ?2 GROUP BY ay, gelir";
 const char *bookSql = "SELECT * FROM defter WHERE islem = 0 AND tarih >= ?1 AND tarih <= ?2 ORDER BY tarih, oto";
 
-void row(const char *what, double program, double raw, double best, const char *target)
-{
-    std::printf("%-46s %9.1f ms %9.1f ms %9.1f ms %7.2f x %7.2f x  %s\n", what, program / 1000, raw / 1000,
-        best / 1000, program / raw, program / best, target);
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
@@ -58,18 +52,13 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QTemporaryDir dir;
-    SetProgramFolder(dir.path());
-    if (!CreateDataFiles() || !OpenDataFiles() || !fillLedger(dataFiles().db->handle())) {
-        std::fprintf(stderr, "cannot build the book\n");
+    sqlite3 *raw = openBook(dir.path(), fillLedger);
+    if (!raw)
         return 1;
-    }
     amountConventions().tlonda = 2;
     SetToday(QDate(2026, 11, 16));
     const qint64 first = DayNumber(QDate(2026, 1, 1));
     const qint64 last = DayNumber(QDate(2026, 12, 31));
-    sqlite3 *raw = nullptr;
-    sqlite3_open_v2(DataFilePath().toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE, nullptr);
-    registerSqlFunctions(raw);
 
     MonthlyReportScreen report;
     const double computeReport = medianMicroseconds(11, [&] { report.compute(); });
@@ -95,10 +84,9 @@ int main(int argc, char *argv[])
     sqlite3_exec(raw, "DROP INDEX best_report; DROP INDEX best_book;", nullptr, nullptr, nullptr);
     sqlite3_close(raw);
 
-    std::printf("%-46s %12s %12s %12s %9s %9s  %s\n", "work (median)", "program", "raw engine", "best plan", "/ raw",
-        "/ best", "target");
-    row("Kdv, Stopaj Raporu: the year by month", computeReport, rawReport, bestReport, "<= 100 ms");
-    row(QStringLiteral("Serbest Meslek Defteri: %1 income rows listed").arg(listed).toUtf8().constData(), listBook,
-        rawBook, bestBook, "<= 200 ms");
+    printHeader();
+    printRow(QStringLiteral("Kdv, Stopaj Raporu: the year by month"), computeReport, rawReport, bestReport, "<= 100 ms");
+    printRow(QStringLiteral("Serbest Meslek Defteri: %1 income rows listed").arg(listed), listBook, rawBook, bestBook,
+        "<= 200 ms");
     return 0;
 }
