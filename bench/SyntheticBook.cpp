@@ -125,6 +125,28 @@ void printRow(const QString &what, double program, double raw, double best, cons
         raw / 1000, best / 1000, program / raw, program / best, target);
 }
 
+qint64 readAll(sqlite3 *db, const char *sql, const QVariantList &values)
+{
+    sqlite3_stmt *stmt = nullptr;
+    sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr);
+    for (int i = 0; i < values.size(); ++i) {
+        if (values[i].typeId() == QMetaType::QString) {
+            const QByteArray text = values[i].toString().toUtf8();
+            sqlite3_bind_text(stmt, i + 1, text.constData(), int(text.size()), SQLITE_TRANSIENT);
+        } else {
+            sqlite3_bind_int64(stmt, i + 1, values[i].toLongLong());
+        }
+    }
+    qint64 rows = 0;
+    while (sqlite3_step(stmt) == SQLITE_ROW) {
+        for (int c = 0; c < sqlite3_column_count(stmt); ++c)
+            sqlite3_column_value(stmt, c);
+        ++rows;
+    }
+    sqlite3_finalize(stmt);
+    return rows;
+}
+
 double medianMicroseconds(int runs, const std::function<void()> &work)
 {
     std::vector<double> times;

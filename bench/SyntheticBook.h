@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 #include <functional>
 
@@ -28,6 +29,9 @@ sqlite3 *openBook(const QString &folder, bool (*fillBook)(sqlite3 *));
 // best plan for the same result.
 void printHeader();
 void printRow(const QString &what, double program, double raw, double best, const char *target);
+// Steps through every row of a statement reading every column, as a listing does; texts and
+// whole numbers bind to ?1, ?2 …. Answers the rows read.
+qint64 readAll(sqlite3 *db, const char *sql, const QVariantList &values);
 // The median time of runs of work, in microseconds.
 double medianMicroseconds(int runs, const std::function<void()> &work);
 

@@ -34,26 +34,6 @@ namespace {
 
 const QDate cashDay(2026, 6, 17);
 
-// Steps through every row of a statement reading every column, as a listing does.
-qint64 readAll(sqlite3 *db, const char *sql, const QVariant &value)
-{
-    sqlite3_stmt *stmt = nullptr;
-    sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr);
-    const QByteArray text = value.toString().toUtf8();
-    if (value.typeId() == QMetaType::QString)
-        sqlite3_bind_text(stmt, 1, text.constData(), int(text.size()), SQLITE_TRANSIENT);
-    else
-        sqlite3_bind_int64(stmt, 1, value.toLongLong());
-    qint64 rows = 0;
-    while (sqlite3_step(stmt) == SQLITE_ROW) {
-        for (int c = 0; c < sqlite3_column_count(stmt); ++c)
-            sqlite3_column_value(stmt, c);
-        ++rows;
-    }
-    sqlite3_finalize(stmt);
-    return rows;
-}
-
 const char *accountSql = "SELECT * FROM carhar WHERE kod = ?1 ORDER BY tarih, islem, ba, oto";
 const char *daySql = "SELECT * FROM carhar WHERE islem IN (1, 3) AND tarih = ?1 ORDER BY ba, oto";
 const char *carrySql = "SELECT sum(tutar * (ba <> 0)), sum(tutar * (ba = 0)) FROM carhar "
@@ -83,7 +63,7 @@ int main(int argc, char *argv[])
     auto *accountGrid = accountScreen.findChild<DcList *>(QStringLiteral("dclist1"));
     const double listAccount = medianMicroseconds(5, [&] { accountScreen.selectAccount(); });
     const int listed = accountGrid->ListCount() - 1;
-    const double rawAccount = medianMicroseconds(5, [&] { readAll(raw, accountSql, accountCode(0)); });
+    const double rawAccount = medianMicroseconds(5, [&] { readAll(raw, accountSql, { accountCode(0) }); });
 
     CashBookScreen cash;
     cash.show();
@@ -92,8 +72,8 @@ int main(int argc, char *argv[])
     const int dayRows = cashGrid->ListCount() - 1;
     const qint64 day = DayNumber(cashDay);
     const double rawDay = medianMicroseconds(11, [&] {
-        readAll(raw, daySql, day);
-        readAll(raw, carrySql, day);
+        readAll(raw, daySql, { day });
+        readAll(raw, carrySql, { day });
     });
 
     // Rows typed into the big account; the timed key is the last Enter, which stores the row
@@ -128,7 +108,7 @@ int main(int argc, char *argv[])
     const double rawAccountBefore = rawAccount;
     sqlite3_exec(raw, "CREATE INDEX best_account ON carhar (kod, tarih, islem, ba, oto, evrak, ack, tutar)", nullptr,
         nullptr, nullptr);
-    const double bestAccount = medianMicroseconds(5, [&] { readAll(raw, accountSql, accountCode(0)); });
+    const double bestAccount = medianMicroseconds(5, [&] { readAll(raw, accountSql, { accountCode(0) }); });
     sqlite3_exec(raw, "DROP INDEX best_account", nullptr, nullptr, nullptr);
     const double bestDay = rawDay; // the cash index already covers the carry-over sum
     sqlite3_close(raw);

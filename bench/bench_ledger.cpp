@@ -25,22 +25,6 @@ using namespace SyntheticBook;
 
 namespace {
 
-qint64 stepAll(sqlite3 *db, const char *sql, qint64 first, qint64 last)
-{
-    sqlite3_stmt *stmt = nullptr;
-    sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr);
-    sqlite3_bind_int64(stmt, 1, first);
-    sqlite3_bind_int64(stmt, 2, last);
-    qint64 rows = 0;
-    while (sqlite3_step(stmt) == SQLITE_ROW) {
-        for (int c = 0; c < sqlite3_column_count(stmt); ++c)
-            sqlite3_column_value(stmt, c);
-        ++rows;
-    }
-    sqlite3_finalize(stmt);
-    return rows;
-}
-
 const char *reportSql = "SELECT month(tarih) AS ay, islem = 0 AS gelir, sum(brut), sum(stopaj), sum(fon), sum(kdv) "
                         "FROM defter WHERE tarih >= ?1 AND tarih <= ?2 GROUP BY ay, gelir";
 const char *bookSql = "SELECT * FROM defter WHERE islem = 0 AND tarih >= ?1 AND tarih <= ?2 ORDER BY tarih, oto";
@@ -62,7 +46,7 @@ int main(int argc, char *argv[])
 
     MonthlyReportScreen report;
     const double computeReport = medianMicroseconds(11, [&] { report.compute(); });
-    const double rawReport = medianMicroseconds(11, [&] { stepAll(raw, reportSql, first, last); });
+    const double rawReport = medianMicroseconds(11, [&] { readAll(raw, reportSql, { first, last }); });
 
     LedgerScreen ledger;
     ledger.show();
@@ -72,15 +56,15 @@ int main(int argc, char *argv[])
     auto *grid = ledger.findChild<DcList *>(QStringLiteral("dclist1"));
     const double listBook = medianMicroseconds(7, [&] { ledger.showBook(LedgerScreen::Gelir); });
     const int listed = grid->ListCount() - 1;
-    const double rawBook = medianMicroseconds(7, [&] { stepAll(raw, bookSql, first, last); });
+    const double rawBook = medianMicroseconds(7, [&] { readAll(raw, bookSql, { first, last }); });
 
     // At best: covering indexes for the report and the book of a year.
     sqlite3_exec(raw,
         "CREATE INDEX best_report ON defter (tarih, islem, brut, stopaj, fon, kdv);"
         "CREATE INDEX best_book ON defter (islem, tarih, oto, sira, evrak, cari, ack, brut, stopaj, fon, kdv);",
         nullptr, nullptr, nullptr);
-    const double bestReport = medianMicroseconds(11, [&] { stepAll(raw, reportSql, first, last); });
-    const double bestBook = medianMicroseconds(7, [&] { stepAll(raw, bookSql, first, last); });
+    const double bestReport = medianMicroseconds(11, [&] { readAll(raw, reportSql, { first, last }); });
+    const double bestBook = medianMicroseconds(7, [&] { readAll(raw, bookSql, { first, last }); });
     sqlite3_exec(raw, "DROP INDEX best_report; DROP INDEX best_book;", nullptr, nullptr, nullptr);
     sqlite3_close(raw);
 
