@@ -57,10 +57,6 @@ bool isText(int field)
     return field != amountField && field != typeField;
 }
 
-QString typeName(int type)
-{
-    return type == 1 ? QStringLiteral("Personel") : type == 2 ? QStringLiteral("Diğer") : QStringLiteral("Müşteri");
-}
 
 Recordset &cards()
 {
@@ -68,6 +64,11 @@ Recordset &cards()
 }
 
 } // namespace
+
+QString CardTypeName(int tip)
+{
+    return tip == 1 ? QStringLiteral("Personel") : tip == 2 ? QStringLiteral("Diğer") : QStringLiteral("Müşteri");
+}
 
 AccountCardsScreen::AccountCardsScreen(QWidget *parent)
     : Screen(QStringLiteral("Form3"), QStringLiteral("Cari Kartlar"), parent)
@@ -209,7 +210,7 @@ void AccountCardsScreen::display()
     m_fields[amountField]->setValue(FieldRead(cards(), column(amountField)));
     const int type = FieldRead(cards(), column(typeField)).toInt();
     m_fields[typeField]->setValue(type);
-    m_type->setValue(typeName(type));
+    m_type->setValue(CardTypeName(type));
     m_balance->showAccount(m_fields[0]->Text());
 }
 

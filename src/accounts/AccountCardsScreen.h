@@ -44,3 +44,6 @@ private:
     std::array<QToolButton *, 6> m_buttons {};
     QString m_lastKod;
 };
+
+// The name of a card's type: "Müşteri" (0 and any other value), "Personel" (1), "Diğer" (2).
+QString CardTypeName(int tip);

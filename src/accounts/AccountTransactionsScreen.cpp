@@ -1,5 +1,6 @@
 #include "accounts/AccountTransactionsScreen.h"
 
+#include "accounts/AccountCardsScreen.h"
 #include "accounts/AccountLookup.h"
 #include "accounts/BalancePanel.h"
 #include "controls/DcList.h"
@@ -28,11 +29,6 @@ const char16_t *const typeLabels[] = { u"0-Devir", u"1-Nakit", u"2-SMM", u"3-Ema
 int typeCode(const QString &text)
 {
     return !text.isEmpty() && text.front().isDigit() ? text.front().digitValue() : 0;
-}
-
-QString cardTypeName(int tip)
-{
-    return tip == 1 ? QStringLiteral("Personel") : tip == 2 ? QStringLiteral("Diğer") : QStringLiteral("Müşteri");
 }
 
 } // namespace
@@ -147,7 +143,7 @@ void AccountTransactionsScreen::selectAccount()
     }
     Recordset &cards = *dataFiles().carkart;
     m_title->setValue(FieldRead(cards, QStringLiteral("unv")).toString());
-    m_type->setValue(cardTypeName(FieldRead(cards, QStringLiteral("tip")).toInt()));
+    m_type->setValue(CardTypeName(FieldRead(cards, QStringLiteral("tip")).toInt()));
     list()->setEditable(true);
     listTransactions(code);
 }

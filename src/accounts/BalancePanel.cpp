@@ -8,16 +8,6 @@
 #include <QGridLayout>
 #include <QLabel>
 
-namespace {
-
-Currency magnitude(const QVariant &sum)
-{
-    const qint64 raw = sum.toLongLong();
-    return Currency::fromRaw(raw < 0 ? -raw : raw);
-}
-
-} // namespace
-
 BalancePanel::BalancePanel(QWidget *parent)
     : QWidget(parent)
 {
@@ -43,9 +33,7 @@ BalancePanel::BalancePanel(QWidget *parent)
         for (int c = 0; c < 3; ++c) {
             auto *amount = new ValueLabel(rowName + u' ' + QString::fromUtf16(columns[c]), this);
             amount->setObjectName(QStringLiteral("bakiye_%1_%2").arg(r).arg(c));
-            amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            amount->setFrameShape(QFrame::StyledPanel);
-            amount->setMinimumWidth(120);
+            amount->showAsAmount(120);
             amount->setTextInteractionFlags(Qt::TextSelectableByMouse);
             grid->addWidget(amount, r + 1, c + 1);
             m_amounts[r][c] = amount;
@@ -61,8 +49,8 @@ bool BalancePanel::sums(const QString &code, bool receipts, Currency *debit, Cur
     std::unique_ptr<Recordset> result;
     if (!QueryOpen(*dataFiles().db, result, sql, { code }))
         return false;
-    *debit = magnitude(FieldRead(*result, QStringLiteral("bsmm")));
-    *credit = magnitude(FieldRead(*result, QStringLiteral("asmm")));
+    *debit = AmountSumRead(*result, QStringLiteral("bsmm")).magnitude();
+    *credit = AmountSumRead(*result, QStringLiteral("asmm")).magnitude();
     return true;
 }
 

@@ -37,12 +37,6 @@ std::pair<Currency, Currency> oneSide(Currency debit, Currency credit)
     return debit > credit ? std::pair(debit - credit, Currency()) : std::pair(Currency(), credit - debit);
 }
 
-Currency absoluteSum(const QVariant &sum)
-{
-    const qint64 raw = sum.toLongLong();
-    return Currency::fromRaw(raw < 0 ? -raw : raw);
-}
-
 } // namespace
 
 CashBookScreen::CashBookScreen(QWidget *parent)
@@ -120,9 +114,7 @@ QWidget *CashBookScreen::makePositionBox()
         for (int c = 0; c < 2; ++c) {
             auto *amount = new ValueLabel(caption + u' ' + QString::fromUtf16(sides[c]), box);
             amount->setObjectName(QStringLiteral("kasa_%1_%2").arg(r).arg(c));
-            amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            amount->setFrameShape(QFrame::StyledPanel);
-            amount->setMinimumWidth(120);
+            amount->showAsAmount(120);
             grid->addWidget(amount, r + 1, c + 1);
             m_position[r][c] = amount;
         }
@@ -137,9 +129,7 @@ QWidget *CashBookScreen::makeAccountBox()
     m_accountCode->setObjectName(QStringLiteral("cariKod"));
     m_accountTitle->setObjectName(QStringLiteral("cariUnvan"));
     m_accountBalance->setObjectName(QStringLiteral("cariBakiye"));
-    m_accountBalance->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_accountBalance->setFrameShape(QFrame::StyledPanel);
-    m_accountBalance->setMinimumWidth(120);
+    m_accountBalance->showAsAmount(120);
     grid->addWidget(new QLabel(QStringLiteral("Cari"), box), 0, 0);
     grid->addWidget(m_accountCode, 0, 1);
     grid->addWidget(m_accountTitle, 0, 2);
@@ -216,8 +206,8 @@ void CashBookScreen::readCarryOver(QDate date)
                            "WHERE islem IN (1, 3) AND tarih < ?1"),
             { DayNumber(date) }))
         return;
-    m_carryDebit = absoluteSum(FieldRead(*sums, QStringLiteral("brc")));
-    m_carryCredit = absoluteSum(FieldRead(*sums, QStringLiteral("ala")));
+    m_carryDebit = AmountSumRead(*sums, QStringLiteral("brc")).magnitude();
+    m_carryCredit = AmountSumRead(*sums, QStringLiteral("ala")).magnitude();
 }
 
 void CashBookScreen::showPosition()
@@ -258,8 +248,7 @@ void CashBookScreen::showAccount(const QString &code)
     std::unique_ptr<Recordset> balance;
     if (QueryOpen(*dataFiles().db, balance,
             QStringLiteral("SELECT sum(tutar * (-2 * ba + 1)) AS baki FROM carhar WHERE kod = ?1"), { code }))
-        m_accountBalance->setValue(
-            FormatAmount(Currency::fromRaw(FieldRead(*balance, QStringLiteral("baki")).toLongLong())));
+        m_accountBalance->setValue(FormatAmount(AmountSumRead(*balance, QStringLiteral("baki"))));
 }
 
 void CashBookScreen::rowChanged(int row)

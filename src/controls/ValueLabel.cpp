@@ -7,6 +7,13 @@ ValueLabel::ValueLabel(const QString &meaning, QWidget *parent)
     setAccessibleName(QString());
 }
 
+void ValueLabel::showAsAmount(int minimumWidth)
+{
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setFrameShape(QFrame::StyledPanel);
+    setMinimumWidth(minimumWidth);
+}
+
 void ValueLabel::setValue(const QString &text)
 {
     setText(text);

@@ -12,5 +12,7 @@ public:
     ValueLabel(const QString &meaning, QWidget *parent);
 
     void setValue(const QString &text);
+    // The look of an amount: right-aligned in a frame of at least this width.
+    void showAsAmount(int minimumWidth);
     QString value() const { return text(); }
 };

@@ -84,6 +84,11 @@ bool RsDelete(Recordset &rs)
     return rs.remove();
 }
 
+Currency AmountSumRead(const Recordset &rs, const QString &fieldName)
+{
+    return Currency::fromRaw(FieldRead(rs, fieldName).toLongLong());
+}
+
 qint64 LastAddedKey(Database &db)
 {
     return sqlite3_last_insert_rowid(db.handle());

@@ -12,6 +12,7 @@
 #include "core/FieldDef.h"
 #include "core/Recordset.h"
 #include "core/TableDef.h"
+#include "money/Currency.h"
 
 #include <QVariant>
 
@@ -36,6 +37,8 @@ bool RsDelete(Recordset &rs);
 QVariant FieldRead(const Recordset &rs, const QString &fieldName);
 void FieldWrite(Recordset &rs, const QString &fieldName, const QVariant &value);
 bool RsEof(const Recordset &rs);
+// A query column that sums an amount field, as an amount (a Null sum is 0).
+Currency AmountSumRead(const Recordset &rs, const QString &fieldName);
 // The auto-number given to the row that the last successful RsUpdate after RsAddNew stored
 // (the auto-number fields are the engine's row numbers).
 qint64 LastAddedKey(Database &db);

@@ -56,9 +56,7 @@ LedgerScreen::LedgerScreen(QWidget *parent)
         const QString caption = QString::fromUtf16(labelCaptions[i]);
         m_labels[i] = new ValueLabel(caption, this);
         m_labels[i]->setObjectName(QStringLiteral("Label1_%1").arg(i));
-        m_labels[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        m_labels[i]->setFrameShape(QFrame::StyledPanel);
-        m_labels[i]->setMinimumWidth(130);
+        m_labels[i]->showAsAmount(130);
         totals->addWidget(new QLabel(caption, this), i / 3, 2 * (i % 3));
         totals->addWidget(m_labels[i], i / 3, 2 * (i % 3) + 1);
     }

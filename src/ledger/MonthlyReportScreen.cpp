@@ -21,11 +21,6 @@ const char16_t *const months[] = { u"Ocak", u"Åžubat", u"Mart", u"Nisan", u"MayÄ
 
 constexpr int totalRow = 13;
 
-Currency sum(Recordset &rows, const char *field)
-{
-    return Currency::fromRaw(FieldRead(rows, QString::fromLatin1(field)).toLongLong());
-}
-
 } // namespace
 
 MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
@@ -77,13 +72,13 @@ void MonthlyReportScreen::compute()
             if (m < 0 || m > 11)
                 continue;
             if (FieldRead(*rows, QStringLiteral("gelir")).toInt() != 0) {
-                month[size_t(m)][HesMatrah] += sum(*rows, "brut");
-                month[size_t(m)][HesKdv] += sum(*rows, "kdv");
-                month[size_t(m)][Stopaj] += sum(*rows, "stopaj");
-                month[size_t(m)][Fon] += sum(*rows, "fon");
+                month[size_t(m)][HesMatrah] += AmountSumRead(*rows, QStringLiteral("brut"));
+                month[size_t(m)][HesKdv] += AmountSumRead(*rows, QStringLiteral("kdv"));
+                month[size_t(m)][Stopaj] += AmountSumRead(*rows, QStringLiteral("stopaj"));
+                month[size_t(m)][Fon] += AmountSumRead(*rows, QStringLiteral("fon"));
             } else {
-                month[size_t(m)][IndMatrah] += sum(*rows, "brut");
-                month[size_t(m)][IndKdv] += sum(*rows, "kdv");
+                month[size_t(m)][IndMatrah] += AmountSumRead(*rows, QStringLiteral("brut"));
+                month[size_t(m)][IndKdv] += AmountSumRead(*rows, QStringLiteral("kdv"));
             }
         } while (RsNext(*rows));
     }

@@ -34,6 +34,7 @@ public:
     QString toString() const;
 
     constexpr bool isZero() const { return m_raw == 0; }
+    constexpr Currency magnitude() const { return fromRaw(m_raw < 0 ? -m_raw : m_raw); }
 
     friend constexpr Currency operator+(Currency a, Currency b) { return fromRaw(a.m_raw + b.m_raw); }
     friend constexpr Currency operator-(Currency a, Currency b) { return fromRaw(a.m_raw - b.m_raw); }

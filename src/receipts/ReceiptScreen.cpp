@@ -64,9 +64,7 @@ ReceiptScreen::ReceiptScreen(QWidget *parent)
     totalCaption->setFont(bold);
     m_totalLabel->setFont(bold);
     m_totalLabel->setObjectName(QStringLiteral("toplam"));
-    m_totalLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_totalLabel->setMinimumWidth(150);
-    m_totalLabel->setFrameShape(QFrame::StyledPanel);
+    m_totalLabel->showAsAmount(150);
     grid()->addWidget(totalCaption, Kdv + 1, 0);
     grid()->addWidget(m_totalLabel, Kdv + 1, 1, Qt::AlignLeft);
 
