@@ -32,16 +32,6 @@ void post(const QString &code, int islem, int ba, qint64 units, QDate date = tod
     QVERIFY(AddAccountPosting({ code, date, islem, QString(), ack, ba, Currency::fromUnits(units) }) > 0);
 }
 
-// Presses "&Tamam" of the printer settings dialog as soon as it is shown.
-void confirmPrinterSetup(QObject *context)
-{
-    QTimer::singleShot(0, context, [] {
-        auto *dialog = qobject_cast<PrinterSetupDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        dialog->findChild<QPushButton *>(QStringLiteral("Command4"))->click();
-    });
-}
-
 } // namespace
 
 class TestCashBook : public QObject
@@ -331,7 +321,7 @@ void TestCashBook::printedDayOnTheDotMatrixPrinter()
     enterGrid();
     const QByteArray before = m_spooler->received();
     printSettings().dotMatrix = true;
-    confirmPrinterSetup(this);
+    AnswerPrinterSetup("Command4", this);
     QTest::keyClick(grid()->view(), Qt::Key_F8);
 
     ExpectedRawPage page;
@@ -377,7 +367,7 @@ void TestCashBook::printedDayAsPdf()
     printSettings().dotMatrix = false;
     printSettings().target = PrintSettings::GraphicTarget::PdfFile;
     printSettings().pdfFile = dir.filePath(QStringLiteral("kasa.pdf"));
-    confirmPrinterSetup(this);
+    AnswerPrinterSetup("Command4", this);
     m_screen->findChild<QPushButton *>(QStringLiteral("yazdir"))->click();
     const QString pdf = PdfText(printSettings().pdfFile);
     for (const char *expected : { "Kasa Defteri", "Tarih :", "16.11.2026", "Açıklama", "Emanet iadesi", "Tahsilat",

@@ -39,15 +39,6 @@ void addLayoutRow(int no, float uzun, float sol, float ust, const QString &txt =
     RsUpdate(duzen);
 }
 
-// Presses a button of the printer settings dialog as soon as it is shown.
-void answerPrinterSetup(const char *button, QObject *context)
-{
-    QTimer::singleShot(0, context, [button] {
-        auto *dialog = qobject_cast<PrinterSetupDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        dialog->findChild<QPushButton *>(QString::fromLatin1(button))->click();
-    });
-}
 
 } // namespace
 
@@ -182,7 +173,7 @@ void TestReceiptScreen::fullReceiptIsPostedAndPrinted()
     typeInto(8, QStringLiteral("Danışmanlık"));
 
     const QByteArray before = m_spooler->received();
-    answerPrinterSetup("Command4", this);
+    AnswerPrinterSetup("Command4", this);
     QTest::keyClick(field(8)->textBox(), Qt::Key_F5);
 
     QStringList page;
@@ -303,7 +294,7 @@ void TestReceiptScreen::depositFormOnTheDotMatrixPrinter()
     fillDeposit();
     printSettings().dotMatrix = true;
     const QByteArray before = m_spooler->received();
-    answerPrinterSetup("Command4", this);
+    AnswerPrinterSetup("Command4", this);
     QTest::keyClick(depositField(9)->textBox(), Qt::Key_F8);
 
     const auto plain = [](const QString &text) { return RawField(text, false, false, false); };

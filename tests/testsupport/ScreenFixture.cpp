@@ -3,10 +3,13 @@
 #include "controls/DcCellEditor.h"
 #include "controls/DcList.h"
 #include "controls/XText.h"
+#include "printing/PrinterSetupDialog.h"
 #include "testsupport/ProgramWindow.h"
 #include "testsupport/Typing.h"
 
+#include <QPushButton>
 #include <QTableView>
+#include <QTimer>
 #include <QtTest>
 
 ScreenFixture::ScreenFixture() = default;
@@ -22,6 +25,15 @@ MainWindow &ScreenFixture::window()
     if (!m_window)
         m_window = ShowProgramWindow();
     return *m_window;
+}
+
+void AnswerPrinterSetup(const char *button, QObject *context)
+{
+    QTimer::singleShot(0, context, [button] {
+        auto *dialog = qobject_cast<PrinterSetupDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->findChild<QPushButton *>(QString::fromLatin1(button))->click();
+    });
 }
 
 void TypeIntoField(XText *field, const QString &keys)

@@ -39,6 +39,8 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
+// Presses a button of the printer settings dialog (by object name) as soon as it is shown.
+void AnswerPrinterSetup(const char *button, QObject *context);
 // Moves into an input field, as Enter or a click would, and types keys into it (see typeKeys).
 void TypeIntoField(XText *field, const QString &keys);
 // Types a grid row as a person does: Enter on the list opens the editor, then every cell's keys
