@@ -39,7 +39,6 @@ void addLayoutRow(int no, float uzun, float sol, float ust, const QString &txt =
     RsUpdate(duzen);
 }
 
-
 } // namespace
 
 class TestReceiptScreen : public QObject
