@@ -7,6 +7,8 @@
 #include "core/SettingsScreen.h"
 #include "ledger/LedgerScreen.h"
 #include "ledger/MonthlyReportScreen.h"
+#include "ledger/OfficialLedgerScreen.h"
+#include "ledger/WithholdingListScreen.h"
 #include "receipts/DepositScreen.h"
 #include "receipts/LayoutDesignerScreen.h"
 #include "receipts/ReceiptScreen.h"
@@ -21,5 +23,7 @@ void AddProgramScreens(MainWindow &window)
     window.addScreen(QStringLiteral("mnudiz"), [] { return new LayoutDesignerScreen; });
     window.addScreen(QStringLiteral("mnusdef"), [] { return new LedgerScreen; });
     window.addScreen(QStringLiteral("mnukdv"), [] { return new MonthlyReportScreen; });
+    window.addScreen(QStringLiteral("mnuresmi"), [] { return new OfficialLedgerScreen; });
+    window.addScreen(QStringLiteral("mnustoplst"), [] { return new WithholdingListScreen; });
     window.addScreen(QStringLiteral("mnuayarlar"), [] { return new SettingsScreen; });
 }

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPushButton>
+#include <QShortcut>
 
 Screen::Screen(const QString &formName, const QString &caption, QWidget *parent)
     : QWidget(parent)
@@ -35,6 +37,20 @@ void Screen::setFocusChain(std::initializer_list<QWidget *> fields)
     m_firstField = fields.size() > 0 ? *fields.begin() : nullptr;
     if (m_firstField)
         m_firstField->setFocus();
+}
+
+QPushButton *Screen::addCommand(
+    const QString &objectName, const QString &caption, const QKeySequence &key, std::function<void()> action)
+{
+    auto *button = new QPushButton(caption, this);
+    button->setObjectName(objectName);
+    button->setAccessibleName(caption.trimmed());
+    button->setAutoDefault(true);
+    connect(button, &QPushButton::clicked, this, action);
+    auto *shortcut = new QShortcut(key, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, std::move(action));
+    return button;
 }
 
 QLabel *LabelFor(const QString &caption, QWidget *field, QWidget *parent)

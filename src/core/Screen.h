@@ -3,9 +3,11 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <initializer_list>
 
 class QLabel;
+class QPushButton;
 
 // A label for a field; its text (without the accelerator mark) becomes the field's accessible
 // name, and that of the widget inside that takes the field's focus.
@@ -26,6 +28,10 @@ protected:
     // The fields in the order Enter/Down and Up move through them; the first takes the focus.
     void setFocusChain(std::initializer_list<QWidget *> fields);
     QLabel *labelFor(const QString &caption, QWidget *field) { return LabelFor(caption, field, this); }
+    // A button that its key presses from every control of the screen, and Enter while it has
+    // the focus.
+    QPushButton *addCommand(
+        const QString &objectName, const QString &caption, const QKeySequence &key, std::function<void()> action);
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

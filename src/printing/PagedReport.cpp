@@ -56,7 +56,10 @@ void PagedReport::pageHead()
         m_layout.pageTop(m_prnx);
     printHeads();
     printRules();
-    if (m_prnx.SayfaSayisi() > 1 && !m_layout.carryCaption.isEmpty())
+    Currency carried;
+    for (Currency total : m_totals)
+        carried += total;
+    if (carried > Currency() && !m_layout.carryCaption.isEmpty())
         printCaptionLine(m_layout.carryCaption, totalTexts());
 }
 
@@ -72,7 +75,7 @@ void PagedReport::printHeads()
     const auto &columns = m_layout.columns;
     for (size_t c = 0; c < columns.size(); ++c) {
         const bool last = c + 1 == columns.size();
-        m_prnx.Lprint(columns[c].head, columns[c].width, last, 0, true);
+        m_prnx.Lprint(columns[c].head, columns[c].width, last, 0, m_layout.boldHeads);
         if (!last)
             m_prnx.Lprint(gap, 1);
     }
@@ -107,6 +110,8 @@ void PagedReport::printCells(const QVariantList &cells)
 // and the gaps between them.
 int PagedReport::captionWidth() const
 {
+    if (m_layout.captionWidth > 0)
+        return m_layout.captionWidth;
     int width = -1;
     for (const ReportColumn &column : m_layout.columns) {
         if (column.summed)

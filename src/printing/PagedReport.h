@@ -27,9 +27,14 @@ struct ReportLayout
     std::vector<ReportColumn> columns;
     // Printed after a page is begun and before the column heads (title, ranges, page number).
     std::function<void(Prnx &)> pageTop;
-    QString carryCaption; // the first line after the heads on every page after the first
+    bool boldHeads = true;
+    // The first line after the heads on a page begun when the running totals add up to more
+    // than zero (every page after the first, once amounts were printed).
+    QString carryCaption;
     QString totalCaption = QStringLiteral("T O P L A M :");
     bool boldTotals = false;
+    // The width of the carry and total captions; 0 spans the unsummed columns and their gaps.
+    int captionWidth = 0;
     // A page is full when its line count + footRoom reaches the lines per page.
     int footRoom = 6;
     // When the last row filled a page exactly: false ends there (its footing holds the totals),

@@ -1,6 +1,7 @@
 #include "controls/DcCellEditor.h"
 #include "controls/DcList.h"
 #include "controls/SpreadsheetExport.h"
+#include "testsupport/SheetCells.h"
 #include "core/Clock.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/ScreenFixture.h"
@@ -99,7 +100,6 @@ private slots:
 private:
     void typeRow(const QStringList &cells) { TypeGridRow(m_list, cells); }
     QStringList rowTexts(int row) const;
-    QStringList sheetCells(const QString &path) const;
     void defineColumns();
     void fillRows(const QList<QStringList> &rows);
     QTableView *view() const { return m_list->view(); }
@@ -478,7 +478,7 @@ void TestDcList::exportOfAnEmptyList()
     QVERIFY(m_list->SendExel(QStringLiteral("Stopaj Listesi"), QStringLiteral("16.11.2026"), QString(), QString()));
     SetSheetOpener(nullptr);
     QVERIFY(QFile::exists(written));
-    const QStringList cells = sheetCells(written);
+    const QStringList cells = SheetCells(written);
     QCOMPARE(cells, QStringList({ "A1=Stopaj Listesi", "B1=#46342", "A4=Tarih", "B4=Açıklama", "C4=Tutar", "D4=B/A" }));
     QFile::remove(written);
 }
@@ -491,25 +491,6 @@ QStringList TestDcList::rowTexts(int row) const
     return texts;
 }
 
-// The sheet's cells, as "reference=text" for texts and "reference=#number" for numbers and
-// dates, read with Python's zipfile.
-QStringList TestDcList::sheetCells(const QString &path) const
-{
-    const QString script
-        = QStringLiteral("import re,sys,zipfile\n"
-                         "z=zipfile.ZipFile(sys.argv[1])\n"
-                         "s=re.findall(r'<t[^>]*>([^<]*)</t>',z.read('xl/sharedStrings.xml').decode())\n"
-                         "for a,b in re.findall(r'<c ([^>]*)>(.*?)</c>',z.read('xl/worksheets/sheet1.xml').decode()):\n"
-                         "  r=re.search(r'r=\"(\\w+)\"',a).group(1); t=re.search(r't=\"(\\w+)\"',a); "
-                         "v=re.search(r'<v>([^<]*)</v>',b).group(1)\n"
-                         "  print(r+'='+(s[int(v)] if t and t.group(1)=='s' else '#'+v))\n");
-    QProcess python;
-    python.start(QStringLiteral("python3"), { QStringLiteral("-c"), script, path });
-    if (!python.waitForFinished(20000))
-        return { QStringLiteral("python3 did not finish") };
-    return QString::fromUtf8(python.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
-}
-
 void TestDcList::exportWritesNumbersAndDates()
 {
     fillRows({ { "05.11.2026", "Kira", "1250.5", "B" }, { "", "", "", "" } });
@@ -520,7 +501,7 @@ void TestDcList::exportWritesNumbersAndDates()
     });
     QVERIFY(m_list->SendExel(QStringLiteral("Liste"), QString(), QString(), QString()));
     SetSheetOpener(nullptr);
-    QCOMPARE(sheetCells(written),
+    QCOMPARE(SheetCells(written),
         QStringList({ "A1=Liste", "A4=Tarih", "B4=Açıklama", "C4=Tutar", "D4=B/A", "A5=#46331", "B5=Kira", "C5=#1250.5",
             "D5=B" }));
     QFile::remove(written);

@@ -6,6 +6,7 @@
 #include "ledger/LedgerScreen.h"
 #include "ledger/MonthlyReportScreen.h"
 #include "money/AmountConventions.h"
+#include "testsupport/Books.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
 #include "testsupport/Typing.h"
@@ -19,10 +20,7 @@ namespace {
 
 void book(int islem, QDate date, qint64 brut, qint64 stopaj, qint64 fon, qint64 kdv, const QString &cari = QString())
 {
-    QVERIFY(AddLedgerPosting({ 0, date, islem, QStringLiteral("E1"), cari, QStringLiteral("Kayıt"),
-                Currency::fromUnits(brut), Currency::fromUnits(stopaj), Currency::fromUnits(fon),
-                Currency::fromUnits(kdv) })
-        > 0);
+    QVERIFY(AddLedgerRow(islem, date, { brut, stopaj, fon, kdv }, cari));
 }
 
 QStringList storedRows()

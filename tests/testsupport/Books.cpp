@@ -17,3 +17,11 @@ bool AddTransaction(const QString &code, int islem, int ba, Currency amount, QDa
 {
     return AddAccountPosting({ code, date, islem, QString(), QString(), ba, amount }) > 0;
 }
+
+bool AddLedgerRow(int islem, QDate date, const LedgerAmountsInUnits &amounts, const QString &cari, const QString &evrak,
+    const QString &ack)
+{
+    return AddLedgerPosting({ 0, date, islem, evrak, cari, ack, Currency::fromUnits(amounts.brut),
+               Currency::fromUnits(amounts.stopaj), Currency::fromUnits(amounts.fon), Currency::fromUnits(amounts.kdv) })
+        > 0;
+}

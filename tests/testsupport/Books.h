@@ -8,3 +8,11 @@
 // Records written straight into the open data file, as the screens would have left them.
 bool AddCard(const QString &code, const QString &title);
 bool AddTransaction(const QString &code, int islem, int ba, Currency amount, QDate date = QDate(2026, 11, 16));
+
+// A ledger row's amounts in whole liras.
+struct LedgerAmountsInUnits
+{
+    qint64 brut = 0, stopaj = 0, fon = 0, kdv = 0;
+};
+bool AddLedgerRow(int islem, QDate date, const LedgerAmountsInUnits &amounts, const QString &cari = QString(),
+    const QString &evrak = QStringLiteral("E1"), const QString &ack = QStringLiteral("Kayıt"));

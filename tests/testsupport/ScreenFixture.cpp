@@ -27,11 +27,13 @@ MainWindow &ScreenFixture::window()
     return *m_window;
 }
 
-void AnswerPrinterSetup(const char *button, QObject *context)
+void AnswerPrinterSetup(const char *button, QObject *context, std::function<void(QWidget *dialog)> first)
 {
-    QTimer::singleShot(0, context, [button] {
+    QTimer::singleShot(0, context, [button, first] {
         auto *dialog = qobject_cast<PrinterSetupDialog *>(QApplication::activeModalWidget());
         QVERIFY(dialog);
+        if (first)
+            first(dialog);
         dialog->findChild<QPushButton *>(QString::fromLatin1(button))->click();
     });
 }

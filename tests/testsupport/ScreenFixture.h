@@ -6,6 +6,7 @@
 
 #include <QAction>
 
+#include <functional>
 #include <memory>
 
 class DcList;
@@ -39,8 +40,9 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
-// Presses a button of the printer settings dialog (by object name) as soon as it is shown.
-void AnswerPrinterSetup(const char *button, QObject *context);
+// Presses a button of the printer settings dialog (by object name) as soon as it is shown,
+// after first (when given) has set the dialog's controls as a person would.
+void AnswerPrinterSetup(const char *button, QObject *context, std::function<void(QWidget *dialog)> first = {});
 // Moves into an input field, as Enter or a click would, and types keys into it (see typeKeys).
 void TypeIntoField(XText *field, const QString &keys);
 // Types a grid row as a person does: Enter on the list opens the editor, then every cell's keys

@@ -1,0 +1,153 @@
+#include "ledger/OfficialLedgerList.h"
+
+#include "controls/DcList.h"
+#include "core/Message.h"
+#include "core/Parameters.h"
+#include "money/AmountConventions.h"
+#include "printing/PagedReport.h"
+#include "printing/PrintSettings.h"
+#include "printing/Prnx.h"
+
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr double amountLimit = 9999999999999.0;
+
+} // namespace
+
+LedgerAmounts &LedgerAmounts::operator+=(const LedgerAmounts &other)
+{
+    brut += other.brut;
+    stopaj += other.stopaj;
+    fon += other.fon;
+    kdv += other.kdv;
+    return *this;
+}
+
+OfficialLedgerList::OfficialLedgerList(int side, bool withholding, bool fund, QWidget *parent)
+    : Screen(QStringLiteral("Form13"),
+          side == Gelir ? QStringLiteral("Serbest Meslek Defteri (Gelir)") : QStringLiteral("Serbest Meslek Defteri (Gider)"),
+          parent)
+    , m_side(side)
+    , m_list(new DcList(this))
+{
+    m_list->setObjectName(QStringLiteral("dclist1"));
+    m_list->setAccessibleName(windowTitle());
+    m_list->view()->setAccessibleName(windowTitle());
+    m_list->setZebra(true);
+    m_list->setEditable(false);
+    m_list->setScroll(3);
+    defineColumns(withholding, fund);
+    auto *page = new QVBoxLayout(this);
+    page->addWidget(m_list);
+    resize(m_side == Gelir ? 820 : 740, 480);
+    setFocusChain({ m_list });
+}
+
+void OfficialLedgerList::defineColumns(bool withholding, bool fund)
+{
+    const int onda = amountConventions().tlonda;
+    const int textWidth = m_side == Gelir ? 150 : 250;
+    const int amountWidth = m_side == Gelir ? 110 : 120;
+    m_list->Add(QStringLiteral("n"), QStringLiteral("sira"), QStringLiteral("Sıra"), 50, 99999999, 0, 0, 0);
+    m_list->Add(QStringLiteral("t"), QStringLiteral("tarih"), QStringLiteral("Tarih"), 90, 10, 0, 0, 0);
+    m_list->Add(QStringLiteral("a"), QStringLiteral("evrak"), QStringLiteral("Evrak"), 80, 8, 0, 0, 0);
+    m_list->Add(QStringLiteral("a"), QStringLiteral("ack"), QStringLiteral("Açıklama"), textWidth, 40, 0, 0, 0);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("matrah"), QStringLiteral("Matrah"), amountWidth, amountLimit, 0, onda, 3);
+    if (m_side == Gelir && withholding)
+        m_list->Add(QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, amountLimit, 0, onda, 3);
+    if (m_side == Gelir && fund)
+        m_list->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, amountLimit, 0, onda, 3);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("kdv"), QStringLiteral("Kdv"), amountWidth, amountLimit, 0, onda, 3);
+}
+
+void OfficialLedgerList::addRow(
+    int sira, const QString &date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts)
+{
+    const int row = m_list->CreateNewCaption();
+    if (row < 0)
+        return;
+    m_list->setCaption(row, Sira, QString::number(sira));
+    m_list->setCaption(row, Tarih, date);
+    m_list->setCaption(row, Evrak, evrak);
+    m_list->setCaption(row, Ack, ack);
+    m_list->setCaption(row, Matrah, amounts.brut.toString());
+    // Columns the list does not have take no value.
+    m_list->setCaptionByName(row, QStringLiteral("stopaj"), amounts.stopaj.toString());
+    m_list->setCaptionByName(row, QStringLiteral("fon"), amounts.fon.toString());
+    m_list->setCaptionByName(row, QStringLiteral("kdv"), amounts.kdv.toString());
+}
+
+Currency OfficialLedgerList::amountAt(int row, const QString &name) const
+{
+    return Currency::fromString(m_list->CaptionByName(row, name));
+}
+
+void OfficialLedgerList::yazdir(int kind, int side)
+{
+    if (parameters().unvan.trimmed().isEmpty()) {
+        Message::exclamation(QStringLiteral("Parametrelerden Unvanı Doldurunuz"));
+        return;
+    }
+    Prnx prnx;
+    const bool income = side == Gelir;
+    if (!prnx.OpenPrinter(kind, income ? QStringLiteral("SM Defteri (Gelir)") : QStringLiteral("SM Defteri (Gider)"),
+            true)) {
+        Message::exclamation(QStringLiteral("Yazıcı Açılamadı"));
+        return;
+    }
+    ReportLayout layout;
+    layout.columns = { { QStringLiteral("Sıra"), 4, 1 }, { QStringLiteral("Tarih"), 12 }, { QStringLiteral("Evrak"), 10 },
+        { QStringLiteral("Açıklama"), 42 } };
+    if (income)
+        layout.columns.insert(layout.columns.end(),
+            { { QStringLiteral("Gelir"), 15, 1, true }, { QStringLiteral("Stopaj"), 12, 1, true },
+                { QStringLiteral("Hes.Kdv."), 12, 1, true } });
+    else
+        layout.columns.insert(layout.columns.end(),
+            { { QStringLiteral("Gider"), 15, 1, true }, { QStringLiteral("İnd.Kdv."), 12, 1, true } });
+    layout.columns.push_back({ QStringLiteral("Toplam"), 15, 1, true });
+    layout.pageTop = [this, income](Prnx &printer) { pageTop(printer, income); };
+    layout.boldHeads = false;
+    layout.carryCaption = QStringLiteral("Nakli Yekun :");
+    layout.boldTotals = true;
+    PagedReport report(prnx, std::move(layout));
+    for (int row = 0; row < m_list->ListCount(); ++row) {
+        const Currency matrah = amountAt(row, QStringLiteral("matrah"));
+        const Currency kdv = amountAt(row, QStringLiteral("kdv"));
+        QVariantList cells = { m_list->curtext(m_list->Caption(row, Sira), Sira), m_list->Caption(row, Tarih),
+            m_list->Caption(row, Evrak), m_list->Caption(row, Ack), QVariant::fromValue(matrah) };
+        if (income) {
+            const Currency stopaj = amountAt(row, QStringLiteral("stopaj"));
+            cells << QVariant::fromValue(stopaj) << QVariant::fromValue(kdv)
+                  << QVariant::fromValue(matrah + kdv + stopaj);
+        } else {
+            cells << QVariant::fromValue(kdv) << QVariant::fromValue(matrah + kdv);
+        }
+        report.printRow(cells);
+    }
+    report.finish();
+    prnx.ClosePrinter();
+}
+
+// The title with its side, the holder's name and, when asked for, the page number.
+void OfficialLedgerList::pageTop(Prnx &prnx, bool income) const
+{
+    const PrintSettings &record = printSettings();
+    prnx.Lprint(QStringLiteral(" "), 1, true);
+    if (record.titleHeading)
+        prnx.Lprint(record.title + (income ? QStringLiteral(" (GELIR)") : QStringLiteral(" (GIDER)")), 115,
+            true, 2, true);
+    if (record.companyHeading) {
+        prnx.Lprint(QStringLiteral("Ünvan :"), 7, false, 1);
+        prnx.Lprint(parameters().unvan.trimmed(), 43);
+    }
+    if (record.pageNoHeading)
+        prnx.Lprint(QStringLiteral("Sayfa:") + QStringLiteral("%1").arg(prnx.SayfaSayisi(), 3, 10, QLatin1Char('0')),
+            income ? 78 : 65, true, 1);
+    else
+        prnx.Lprint(QStringLiteral(" "), 1, true);
+    prnx.Lprint(QStringLiteral(" "), 1, true);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/Screen.h"
+#include "money/Currency.h"
+
+class DcList;
+
+// The amounts of a ledger row, or their sums.
+struct LedgerAmounts
+{
+    Currency brut, stopaj, fon, kdv;
+    LedgerAmounts &operator+=(const LedgerAmounts &other);
+};
+
+// The official book of one side as a read-only list (Form13), "Serbest Meslek Defteri (Gelir)"
+// or "(Gider)", and its printed pages: numbered rows, page totals carried from page to page.
+class OfficialLedgerList : public Screen
+{
+    Q_OBJECT
+public:
+    enum Side { Gelir = 0, Gider = 1 };
+    enum Column { Sira = 0, Tarih, Evrak, Ack, Matrah };
+
+    // withholding and fund: whether the income list shows those columns.
+    OfficialLedgerList(int side, bool withholding, bool fund, QWidget *parent = nullptr);
+
+    // A numbered row (number 0: the row that carries in the sums before the range).
+    void addRow(int sira, const QString &date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts);
+    // Prints the listed rows with the print engine kind (Prnx::Graphic or Prnx::Raw).
+    void yazdir(int kind, int side);
+    DcList *list() const { return m_list; }
+
+private:
+    void defineColumns(bool withholding, bool fund);
+    void pageTop(class Prnx &prnx, bool income) const;
+    Currency amountAt(int row, const QString &name) const;
+
+    int m_side;
+    DcList *m_list;
+};

@@ -1,0 +1,185 @@
+#include "ledger/WithholdingListScreen.h"
+
+#include "controls/DcList.h"
+#include "controls/ValueLabel.h"
+#include "controls/XText.h"
+#include "core/AccessLayer.h"
+#include "core/Clock.h"
+#include "core/DataFiles.h"
+#include "money/AmountConventions.h"
+#include "money/FormatAmount.h"
+#include "printing/PagedReport.h"
+#include "printing/PrintPreset.h"
+#include "printing/PrintSettings.h"
+#include "printing/Prnx.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+WithholdingListScreen::WithholdingListScreen(QWidget *parent)
+    : Screen(QStringLiteral("Form15"), QStringLiteral("Stopaj Listesi"), parent)
+    , m_list(new DcList(this))
+    , m_totalGross(new ValueLabel(QStringLiteral("Toplam Brüt"), this))
+    , m_totalTax(new ValueLabel(QStringLiteral("Toplam Vergi"), this))
+{
+    m_list->setObjectName(QStringLiteral("dclist1"));
+    m_list->setAccessibleName(QStringLiteral("Stopaj Listesi"));
+    m_list->view()->setAccessibleName(QStringLiteral("Stopaj Listesi"));
+    m_list->setZebra(true);
+    m_list->setEditable(false);
+    m_list->setScroll(1);
+    defineColumns();
+    m_totalGross->setObjectName(QStringLiteral("Label3_1"));
+    m_totalGross->showAsAmount(115);
+    m_totalTax->setObjectName(QStringLiteral("Label3_0"));
+    m_totalTax->showAsAmount(115);
+    QPushButton *printButton
+        = addCommand(QStringLiteral("Command1"), QStringLiteral(" Yazdır (F8) "), Qt::Key_F8, [this] { print(); });
+    QPushButton *sheetButton
+        = addCommand(QStringLiteral("Command2"), QStringLiteral(" Excel (F6) "), Qt::Key_F6, [this] { exportSheet(); });
+
+    auto *top = new QHBoxLayout;
+    const char16_t *captions[] = { u"Başlangıç", u"Bitiş" };
+    for (int i = 0; i < 2; ++i) {
+        makeDateField(i);
+        top->addWidget(labelFor(QString::fromUtf16(captions[i]), m_dates[i]));
+        top->addWidget(m_dates[i]);
+    }
+    top->addStretch();
+    top->addWidget(printButton);
+    top->addWidget(sheetButton);
+    auto *totals = new QHBoxLayout;
+    totals->addStretch();
+    totals->addWidget(new QLabel(QStringLiteral("Toplam"), this));
+    totals->addWidget(m_totalGross);
+    totals->addWidget(m_totalTax);
+    auto *page = new QVBoxLayout(this);
+    page->addLayout(top);
+    page->addWidget(m_list, 1);
+    page->addLayout(totals);
+    resize(800, 480);
+    connect(m_list, &DcList::ListFocused, this, &WithholdingListScreen::listEntered);
+    setFocusChain({ m_dates[0], m_dates[1], m_list, printButton, sheetButton });
+}
+
+XText *WithholdingListScreen::makeDateField(int index)
+{
+    m_dates[index] = new XText(this);
+    m_dates[index]->setObjectName(QStringLiteral("xtext1_%1").arg(index));
+    m_dates[index]->xTextBicim(XText::DateFormat, 10, Qt::AlignCenter, true, 0, 0);
+    return m_dates[index];
+}
+
+void WithholdingListScreen::defineColumns()
+{
+    const int onda = amountConventions().tlonda;
+    m_list->Add(QStringLiteral("n"), QStringLiteral("s"), QStringLiteral("S."), 30, 99999, 0, 0, 0);
+    m_list->Add(QStringLiteral("a"), QStringLiteral("adsoy"), QStringLiteral("Adı Soyadı"), 140, 40, 0, 0, 0);
+    m_list->Add(QStringLiteral("a"), QStringLiteral("verno"), QStringLiteral("Vergi No"), 95, 15, 0, 0, 0);
+    m_list->Add(QStringLiteral("a"), QStringLiteral("verda"), QStringLiteral("V.Dairesi"), 95, 15, 0, 0, 0);
+    m_list->Add(QStringLiteral("a"), QStringLiteral("tur"), QStringLiteral("Tür"), 40, 3, 0, 0, 0);
+    m_list->Add(QStringLiteral("t"), QStringLiteral("donem"), QStringLiteral("Dönem"), 90, 10, 0, 0, 0);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("brut"), QStringLiteral("Brüt"), 115, 999999999999.0, 0, onda, 3);
+    m_list->Add(QStringLiteral("n"), QStringLiteral("vergi"), QStringLiteral("Vergi"), 115, 999999999999.0, 0, onda, 3);
+}
+
+// The dates as they stand now make the query; the list reloads only when it differs from the
+// last one.
+void WithholdingListScreen::listEntered()
+{
+    QString sql = QStringLiteral(
+        "SELECT d.tarih AS donem, d.brut AS brut, d.stopaj AS vergi, k.unv AS adsoy, k.vn AS verno, k.vd AS verda "
+        "FROM defter d LEFT JOIN carkart k ON k.kod = d.cari WHERE d.islem = 0 AND d.stopaj > 0");
+    QVariantList values;
+    const char *bounds[] = { " AND d.tarih >= ?%1", " AND d.tarih <= ?%1" };
+    for (int i = 0; i < 2; ++i) {
+        const qint64 day = m_dates[i]->Value().toLongLong();
+        if (day == 0)
+            continue;
+        values << day;
+        sql += QString::fromLatin1(bounds[i]).arg(values.size());
+    }
+    sql += QStringLiteral(" ORDER BY d.cari, d.tarih, d.oto");
+    const QString query = sql + QStringLiteral("|") + QVariant(values).toStringList().join(u',');
+    if (query == m_lastQuery)
+        return;
+    m_lastQuery = query;
+    load(sql, values);
+}
+
+void WithholdingListScreen::load(const QString &sql, const QVariantList &values)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_list->Clear();
+    Currency gross, tax;
+    std::unique_ptr<Recordset> rows;
+    if (QueryOpen(*dataFiles().db, rows, sql, values)) {
+        for (; !RsEof(*rows); RsNext(*rows)) {
+            const int row = m_list->CreateNewCaption();
+            if (row < 0)
+                break;
+            const Currency brut = FieldRead(*rows, QStringLiteral("brut")).value<Currency>();
+            const Currency vergi = FieldRead(*rows, QStringLiteral("vergi")).value<Currency>();
+            m_list->setCaption(row, S, QString::number(row + 1));
+            m_list->setCaption(row, AdSoyad, FieldRead(*rows, QStringLiteral("adsoy")).toString());
+            m_list->setCaption(row, VerNo, FieldRead(*rows, QStringLiteral("verno")).toString());
+            m_list->setCaption(row, VerDa, FieldRead(*rows, QStringLiteral("verda")).toString());
+            m_list->setCaption(row, Tur, QStringLiteral("SMK"));
+            m_list->setCaption(row, Donem,
+                FieldRead(*rows, QStringLiteral("donem")).toDate().toString(QStringLiteral("dd.MM.yyyy")));
+            m_list->setCaption(row, Brut, brut.toString());
+            m_list->setCaption(row, Vergi, vergi.toString());
+            gross += brut;
+            tax += vergi;
+        }
+    }
+    m_totalGross->setValue(FormatAmount(gross));
+    m_totalTax->setValue(FormatAmount(tax));
+    QApplication::restoreOverrideCursor();
+}
+
+void WithholdingListScreen::print()
+{
+    if (m_list->ListCount() == 0)
+        return;
+    const int kind = ChoosePrinter({ QStringLiteral("Stopaj Listesi"), false, false, false, false, 33, true }, this);
+    Prnx prnx;
+    if (kind == 0 || !prnx.OpenPrinter(kind, printSettings().title, true))
+        return;
+    ReportLayout layout;
+    layout.columns = { { QStringLiteral("Sira"), 4, 1 }, { QStringLiteral("Ad Soyad"), 40 },
+        { QStringLiteral("Vergi No"), 15 }, { QStringLiteral("Vergi Daire"), 15 }, { QStringLiteral("Tür"), 4 },
+        { QStringLiteral("Dönem"), 12 }, { QStringLiteral("Brüt Tutar"), 15, 1, true },
+        { QStringLiteral("Vergi Tutar"), 15, 1, true } };
+    layout.pageTop = [this](Prnx &printer) { pageTop(printer); };
+    layout.footRoom = 0;
+    layout.captionWidth = 94;
+    PagedReport report(prnx, std::move(layout));
+    for (int row = 0; row < m_list->ListCount(); ++row)
+        report.printRow({ m_list->Caption(row, S), m_list->Caption(row, AdSoyad), m_list->Caption(row, VerNo),
+            m_list->Caption(row, VerDa), m_list->Caption(row, Tur), m_list->Caption(row, Donem),
+            QVariant::fromValue(Currency::fromString(m_list->Caption(row, Brut))),
+            QVariant::fromValue(Currency::fromString(m_list->Caption(row, Vergi))) });
+    report.finish();
+    prnx.ClosePrinter();
+}
+
+void WithholdingListScreen::pageTop(Prnx &prnx) const
+{
+    prnx.Lprint(QStringLiteral(" "), 1, true);
+    prnx.Lprint(printSettings().title, 130, true, 2, true);
+    prnx.Lprint(QStringLiteral("Dönem :") + m_dates[0]->Text() + QStringLiteral(" - ") + m_dates[1]->Text(), 130, true);
+    prnx.Lprint(QStringLiteral(" "), 1, true);
+}
+
+void WithholdingListScreen::exportSheet()
+{
+    if (m_list->ListCount() == 0)
+        return;
+    m_list->SendExel(QStringLiteral("Stopaj Listesi"), Today().toString(QStringLiteral("dd.MM.yyyy")),
+        QStringLiteral("Başlangıç :") + m_dates[0]->Text(), QStringLiteral("Bitiş :") + m_dates[1]->Text());
+}

@@ -1,0 +1,388 @@
+#include "controls/DcList.h"
+#include "controls/XText.h"
+#include "core/Clock.h"
+#include "core/Parameters.h"
+#include "ledger/OfficialLedgerList.h"
+#include "ledger/OfficialLedgerScreen.h"
+#include "money/AmountConventions.h"
+#include "printing/DosPrint.h"
+#include "printing/PrintSettings.h"
+#include "testsupport/Books.h"
+#include "testsupport/ExpectedPage.h"
+#include "testsupport/PrivateSpooler.h"
+#include "testsupport/RecordingRawChannel.h"
+#include "testsupport/ScreenFixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QDate today(2026, 11, 16);
+constexpr int linesPerPage = 66;
+const LedgerAmountsInUnits fee { 1000, 200, 10, 180 };
+
+// The n-th income row of the year (1-based), one a day from 1 January.
+void bookIncome(int count, const LedgerAmountsInUnits &amounts = fee)
+{
+    for (int n = 1; n <= count; ++n)
+        QVERIFY(AddLedgerRow(0, QDate(2026, 1, 1).addDays(n - 1), amounts, QString(), QStringLiteral("E%1").arg(n),
+            QStringLiteral("Kayıt %1").arg(n)));
+}
+
+QString money(qint64 units)
+{
+    return QLocale(QLocale::English).toString(double(units), 'f', 2);
+}
+
+// The printed income page, piece by piece.
+struct IncomePage
+{
+    ExpectedRawPage page;
+
+    void rule()
+    {
+        page.rule(4).gap().rule(12).gap().rule(10).gap().rule(42).gap();
+        page.rule(15).gap().rule(12).gap().rule(12).gap().rule(15).endLine();
+    }
+    void sums(const QString &caption, int rows, bool bold)
+    {
+        page.field(caption, 71, 1, bold).gap().field(money(rows * fee.brut), 15, 1, bold).gap();
+        page.field(money(rows * fee.stopaj), 12, 1, bold).gap().field(money(rows * fee.kdv), 12, 1, bold).gap();
+        page.field(money(rows * (fee.brut + fee.stopaj + fee.kdv)), 15, 1, bold).endLine();
+    }
+    void head(int carriedRows, const QString &pageNumber = QString())
+    {
+        page.field(QStringLiteral(" "), 1).endLine();
+        page.bold(QStringLiteral("SERBEST MESLEK DEFTERİ (GELIR)"), 115, 2).endLine();
+        page.field(QStringLiteral("Ünvan :"), 7, 1).field(QStringLiteral("Av. Deniz Kaya"), 43);
+        if (pageNumber.isEmpty())
+            page.field(QStringLiteral(" "), 1).endLine();
+        else
+            page.field(QStringLiteral("Sayfa:") + pageNumber, 78, 1).endLine();
+        page.field(QStringLiteral(" "), 1).endLine();
+        page.field(QStringLiteral("Sıra"), 4).gap().field(QStringLiteral("Tarih"), 12).gap();
+        page.field(QStringLiteral("Evrak"), 10).gap().field(QStringLiteral("Açıklama"), 42).gap();
+        page.field(QStringLiteral("Gelir"), 15).gap().field(QStringLiteral("Stopaj"), 12).gap();
+        page.field(QStringLiteral("Hes.Kdv."), 12).gap().field(QStringLiteral("Toplam"), 15).endLine();
+        rule();
+        if (carriedRows > 0)
+            sums(QStringLiteral("Nakli Yekun :"), carriedRows, false);
+    }
+    void row(int n)
+    {
+        page.field(QString::number(n), 4, 1).gap();
+        page.field(QDate(2026, 1, 1).addDays(n - 1).toString(QStringLiteral("dd.MM.yyyy")), 12).gap();
+        page.field(QStringLiteral("E%1").arg(n), 10).gap().field(QStringLiteral("Kayıt %1").arg(n), 42).gap();
+        page.field(money(fee.brut), 15, 1).gap().field(money(fee.stopaj), 12, 1).gap();
+        page.field(money(fee.kdv), 12, 1).gap().field(QStringLiteral("1,380.00"), 15, 1).endLine();
+    }
+    void foot(int rows)
+    {
+        rule();
+        sums(QStringLiteral("T O P L A M :"), rows, true);
+        page.endPage(linesPerPage);
+    }
+};
+
+} // namespace
+
+class TestOfficialLedger : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+    void listingFromNumberFiveCarriesTheRowsBefore();
+    void firstDateContinuesTheNumbering();
+    void lastDateAndLastNumberEndTheList();
+    void columnsFollowTheSideAndTheSwitches_data();
+    void columnsFollowTheSideAndTheSwitches();
+    void printedPagesCarryTheirTotals_data();
+    void printedPagesCarryTheirTotals();
+    void expensePageAddsOnlyTheVat();
+    void printedAsPdf();
+    void holderNameIsNeeded();
+    void printerThatDoesNotOpen();
+
+private:
+    XText *field(int index) const
+    {
+        return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index));
+    }
+    QStringList shownColumn(int column) const;
+    QByteArray printRaw(const std::function<void(QWidget *)> &dialog = {});
+
+    std::unique_ptr<PrivateSpooler> m_spooler;
+    std::unique_ptr<ScreenFixture> m_kit;
+    QPointer<OfficialLedgerScreen> m_screen;
+};
+
+void TestOfficialLedger::initTestCase()
+{
+    m_spooler = std::make_unique<PrivateSpooler>();
+    QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
+    QVERIFY(m_spooler->addQueue(QStringLiteral("defter")));
+}
+
+void TestOfficialLedger::cleanupTestCase()
+{
+    m_spooler.reset();
+}
+
+void TestOfficialLedger::init()
+{
+    SetToday(today);
+    ResetPrintSettings();
+    m_kit = std::make_unique<ScreenFixture>();
+    QVERIFY(m_kit->isReady());
+    amountConventions().tlonda = 2;
+    parameters().unvan = QStringLiteral("  Av. Deniz Kaya ");
+    m_screen = m_kit->open<OfficialLedgerScreen>("mnuresmi", "Form12");
+    QVERIFY(m_screen);
+    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Serbest Meslek Defteri"));
+}
+
+void TestOfficialLedger::cleanup()
+{
+    m_kit.reset();
+    SetToday(QDate());
+}
+
+QStringList TestOfficialLedger::shownColumn(int column) const
+{
+    const DcList *list = m_screen->listScreen()->list();
+    QStringList texts;
+    for (int row = 0; row < list->ListCount(); ++row)
+        texts << list->view()->model()->index(row, column).data().toString();
+    return texts;
+}
+
+// Prints the income book on the dot-matrix queue and answers what the printer received.
+QByteArray TestOfficialLedger::printRaw(const std::function<void(QWidget *)> &dialog)
+{
+    const QByteArray before = m_spooler->received();
+    printSettings().dotMatrix = true;
+    AnswerPrinterSetup("Command4", this, dialog);
+    QTest::keyClick(field(0)->textBox(), Qt::Key_F8);
+    if (!QTest::qWaitFor([&] { return m_spooler->received().size() > before.size(); }, 20000))
+        return {};
+    for (qsizetype size = 0; size != m_spooler->received().size();) { // until the job is through
+        size = m_spooler->received().size();
+        QTest::qWait(300);
+    }
+    return m_spooler->received().mid(before.size());
+}
+
+void TestOfficialLedger::listingFromNumberFiveCarriesTheRowsBefore()
+{
+    bookIncome(6);
+    QVERIFY(AddLedgerRow(0, QDate(2025, 12, 31), fee)); // last year's
+    QVERIFY(AddLedgerRow(1, QDate(2026, 1, 2), fee)); // the other side
+    TypeIntoField(field(0), QStringLiteral("5"));
+    QTest::keyClick(field(0)->textBox(), Qt::Key_F7);
+    OfficialLedgerList *list = m_screen->listScreen();
+    QVERIFY(list);
+    QCOMPARE(list->windowTitle(), QStringLiteral("Serbest Meslek Defteri (Gelir)"));
+    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "", "5", "6" }));
+    QCOMPARE(shownColumn(OfficialLedgerList::Ack), QStringList({ "Devir....", "Kayıt 5", "Kayıt 6" }));
+    QCOMPARE(shownColumn(OfficialLedgerList::Tarih), QStringList({ "", "05.01.2026", "06.01.2026" }));
+    QCOMPARE(shownColumn(OfficialLedgerList::Matrah), QStringList({ "4,000.00", "1,000.00", "1,000.00" }));
+    QCOMPARE(shownColumn(5), QStringList({ "720.00", "180.00", "180.00" })); // Kdv: no withholding column
+
+    field(0)->setValue(1); // a second listing replaces the first
+    m_screen->listOnScreen();
+    QTest::qWait(50); // deleted later
+    QVERIFY(!list);
+    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2", "3", "4", "5", "6" }));
+}
+
+void TestOfficialLedger::firstDateContinuesTheNumbering()
+{
+    for (int month = 1; month <= 4; ++month)
+        QVERIFY(AddLedgerRow(0, QDate(2026, month, 10), fee, QString(), QStringLiteral("E%1").arg(month)));
+    TypeIntoField(field(2), QStringLiteral("01032026"));
+    m_screen->listOnScreen();
+    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "3", "4" }));
+    QCOMPARE(shownColumn(OfficialLedgerList::Evrak), QStringList({ "E3", "E4" }));
+
+    TypeIntoField(field(0), QStringLiteral("4")); // both ranges: the March row is carried in
+    m_screen->listOnScreen();
+    QCOMPARE(shownColumn(OfficialLedgerList::Ack), QStringList({ "Devir....", "Kayıt" }));
+    QCOMPARE(shownColumn(OfficialLedgerList::Matrah), QStringList({ "1,000.00", "1,000.00" }));
+}
+
+void TestOfficialLedger::lastDateAndLastNumberEndTheList()
+{
+    bookIncome(6);
+    TypeIntoField(field(3), QStringLiteral("04012026"));
+    m_screen->listOnScreen();
+    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2", "3", "4" }));
+    TypeIntoField(field(1), QStringLiteral("2"));
+    TypeIntoField(field(2), QStringLiteral("??.??.????")); // not a date: no bound
+    m_screen->listOnScreen();
+    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2" }));
+}
+
+void TestOfficialLedger::columnsFollowTheSideAndTheSwitches_data()
+{
+    QTest::addColumn<int>("side");
+    QTest::addColumn<bool>("withholding");
+    QTest::addColumn<bool>("fund");
+    QTest::addColumn<QStringList>("columns");
+    const QStringList fixed = { "sira", "tarih", "evrak", "ack", "matrah" };
+    QTest::newRow("gelir") << 0 << false << false << fixed + QStringList { "kdv" };
+    QTest::newRow("gelir, stopaj") << 0 << true << false << fixed + QStringList { "stopaj", "kdv" };
+    QTest::newRow("gelir, both") << 0 << true << true << fixed + QStringList { "stopaj", "fon", "kdv" };
+    QTest::newRow("gider ignores both") << 1 << true << true << fixed + QStringList { "kdv" };
+}
+
+void TestOfficialLedger::columnsFollowTheSideAndTheSwitches()
+{
+    QFETCH(int, side);
+    QFETCH(bool, withholding);
+    QFETCH(bool, fund);
+    QFETCH(QStringList, columns);
+    QVERIFY(AddLedgerRow(side, QDate(2026, 2, 1), { 500, 100, 5, 90 }));
+    m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(side);
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->setChecked(withholding);
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->setChecked(fund);
+    m_screen->listOnScreen();
+    const DcList *list = m_screen->listScreen()->list();
+    QStringList names;
+    for (int c = 0; c < list->view()->model()->columnCount(); ++c)
+        names << list->SectionName(c).toLower();
+    QCOMPARE(names, columns);
+    QCOMPARE(list->CaptionByName(0, QStringLiteral("kdv")), QStringLiteral("90"));
+    QCOMPARE(m_screen->listScreen()->windowTitle(),
+        side == 0 ? QStringLiteral("Serbest Meslek Defteri (Gelir)") : QStringLiteral("Serbest Meslek Defteri (Gider)"));
+}
+
+void TestOfficialLedger::printedPagesCarryTheirTotals_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<bool>("pageNumbers");
+    // A page holds six lines of head and 54 rows before the line count reaches 60.
+    QTest::newRow("two pages") << 56 << false;
+    QTest::newRow("the last row ends a page") << 54 << false;
+    QTest::newRow("page numbers") << 56 << true;
+}
+
+void TestOfficialLedger::printedPagesCarryTheirTotals()
+{
+    QFETCH(int, rows);
+    QFETCH(bool, pageNumbers);
+    bookIncome(rows);
+    const QByteArray printed = printRaw([pageNumbers](QWidget *dialog) {
+        dialog->findChild<QCheckBox *>(QStringLiteral("Check1_2"))->setChecked(pageNumbers);
+    });
+    QVERIFY(m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->isChecked());
+
+    IncomePage expected;
+    expected.page.raw(QByteArray("\x0f", 1)); // condensed
+    for (int n = 1; n <= rows; ++n) {
+        const int onPage = (n - 1) % 54;
+        if (onPage == 0)
+            expected.head(n - 1, pageNumbers ? QStringLiteral("%1").arg(n / 54 + 1, 3, 10, QLatin1Char('0')) : QString());
+        expected.row(n);
+        if (onPage == 53 || n == rows)
+            expected.foot(n);
+    }
+    const QString difference = FirstDifference(printed, expected.page.bytes());
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+}
+
+void TestOfficialLedger::expensePageAddsOnlyTheVat()
+{
+    QVERIFY(AddLedgerRow(1, QDate(2026, 3, 2), { 500, 0, 0, 90 }, QString(), QStringLiteral("F7"),
+        QStringLiteral("Kırtasiye")));
+    m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(1);
+    printSettings().dotMatrix = true;
+    const QByteArray before = m_spooler->received();
+    AnswerPrinterSetup("Command4", this);
+    m_screen->print();
+    QTRY_VERIFY_WITH_TIMEOUT(m_spooler->received().size() > before.size(), 20000);
+    QTest::qWait(500);
+    ExpectedRawPage page;
+    const auto rule = [&page] {
+        page.rule(4).gap().rule(12).gap().rule(10).gap().rule(42).gap().rule(15).gap().rule(12).gap().rule(15).endLine();
+    };
+    page.raw(QByteArray("\x0f", 1)).field(QStringLiteral(" "), 1).endLine();
+    page.bold(QStringLiteral("SERBEST MESLEK DEFTERİ (GIDER)"), 115, 2).endLine();
+    page.field(QStringLiteral("Ünvan :"), 7, 1).field(QStringLiteral("Av. Deniz Kaya"), 43);
+    page.field(QStringLiteral(" "), 1).endLine().field(QStringLiteral(" "), 1).endLine();
+    page.field(QStringLiteral("Sıra"), 4).gap().field(QStringLiteral("Tarih"), 12).gap();
+    page.field(QStringLiteral("Evrak"), 10).gap().field(QStringLiteral("Açıklama"), 42).gap();
+    page.field(QStringLiteral("Gider"), 15).gap().field(QStringLiteral("İnd.Kdv."), 12).gap();
+    page.field(QStringLiteral("Toplam"), 15).endLine();
+    rule();
+    page.field(QStringLiteral("1"), 4, 1).gap().field(QStringLiteral("02.03.2026"), 12).gap();
+    page.field(QStringLiteral("F7"), 10).gap().field(QStringLiteral("Kırtasiye"), 42).gap();
+    page.field(QStringLiteral("500.00"), 15, 1).gap().field(QStringLiteral("90.00"), 12, 1).gap();
+    page.field(QStringLiteral("590.00"), 15, 1).endLine();
+    rule();
+    page.bold(QStringLiteral("T O P L A M :"), 71, 1).gap().bold(QStringLiteral("500.00"), 15, 1).gap();
+    page.bold(QStringLiteral("90.00"), 12, 1).gap().bold(QStringLiteral("590.00"), 15, 1).endLine();
+    page.endPage(linesPerPage);
+    const QString difference = FirstDifference(m_spooler->received().mid(before.size()), page.bytes());
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("SERBEST MESLEK DEFTERİ")));
+}
+
+void TestOfficialLedger::printedAsPdf()
+{
+    bookIncome(150); // more than a graphic page holds
+    QTemporaryDir dir;
+    printSettings().dotMatrix = false;
+    printSettings().target = PrintSettings::GraphicTarget::PdfFile;
+    printSettings().pdfFile = dir.filePath(QStringLiteral("defter.pdf"));
+    AnswerPrinterSetup("Command4", this);
+    m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click();
+    // pdftotext may close up the spaced captions: compare without blanks.
+    const QStringList pages = PdfText(printSettings().pdfFile).remove(u' ').split(u'\f', Qt::SkipEmptyParts);
+    QVERIFY(pages.size() >= 2);
+    const auto has = [](const QString &page, const char *text) { return page.contains(QString::fromUtf8(text).remove(u' ')); };
+    for (const char *expected : { "SERBEST MESLEK DEFTERİ (GELIR)", "Ünvan :", "Av. Deniz Kaya", "Hes.Kdv.", "Kayıt 1",
+             "1,380.00", "T O P L A M :" })
+        QVERIFY2(has(pages.first(), expected), expected);
+    QVERIFY(!has(pages.first(), "Nakli Yekun :"));
+    for (const char *expected : { "Nakli Yekun :", "Kayıt 150", "150,000.00", "207,000.00" })
+        QVERIFY2(has(pages.last(), expected), expected);
+}
+
+void TestOfficialLedger::holderNameIsNeeded()
+{
+    bookIncome(2);
+    parameters().unvan = QStringLiteral("   ");
+    const QByteArray before = m_spooler->received();
+    printSettings().dotMatrix = true;
+    AnswerPrinterSetup("Command4", this);
+    m_screen->print();
+    QCOMPARE(m_kit->messages().texts(), QStringList { "Parametrelerden Unvanı Doldurunuz" });
+    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2" })); // listed all the same
+    QTest::qWait(300);
+    QCOMPARE(m_spooler->received(), before);
+}
+
+void TestOfficialLedger::printerThatDoesNotOpen()
+{
+    bookIncome(1);
+    RecordingRawChannel::Log log;
+    SetRawChannel(std::make_unique<RecordingRawChannel>(&log, false));
+    printSettings().dotMatrix = true;
+    AnswerPrinterSetup("Command4", this);
+    m_screen->print();
+    SetRawChannel(nullptr);
+    QCOMPARE(m_kit->messages().texts(), QStringList { "Yazıcı Açılamadı" });
+    QVERIFY(log.writes.isEmpty());
+}
+
+QTEST_MAIN(TestOfficialLedger)
+#include "tst_officialledger.moc"
