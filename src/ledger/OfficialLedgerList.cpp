@@ -26,24 +26,30 @@ LedgerAmounts &LedgerAmounts::operator+=(const LedgerAmounts &other)
     return *this;
 }
 
-OfficialLedgerList::OfficialLedgerList(int side, bool withholding, bool fund, QWidget *parent)
-    : Screen(QStringLiteral("Form13"),
-          side == Gelir ? QStringLiteral("Serbest Meslek Defteri (Gelir)") : QStringLiteral("Serbest Meslek Defteri (Gider)"),
-          parent)
-    , m_side(side)
+OfficialLedgerList::OfficialLedgerList(QWidget *parent)
+    : Screen(QStringLiteral("Form13"), QStringLiteral("Serbest Meslek Defteri"), parent)
     , m_list(new DcList(this))
 {
     m_list->setObjectName(QStringLiteral("dclist1"));
-    m_list->setAccessibleName(windowTitle());
-    m_list->view()->setAccessibleName(windowTitle());
     m_list->setZebra(true);
     m_list->setEditable(false);
     m_list->setScroll(3);
-    defineColumns(withholding, fund);
     auto *page = new QVBoxLayout(this);
     page->addWidget(m_list);
-    resize(m_side == Gelir ? 820 : 740, 480);
+    resize(820, 480);
     setFocusChain({ m_list });
+}
+
+void OfficialLedgerList::showBook(int side, bool withholding, bool fund)
+{
+    m_side = side;
+    setWindowTitle(
+        side == Gelir ? QStringLiteral("Serbest Meslek Defteri (Gelir)") : QStringLiteral("Serbest Meslek Defteri (Gider)"));
+    m_list->setAccessibleName(windowTitle());
+    m_list->view()->setAccessibleName(windowTitle());
+    m_list->Clear();
+    m_list->Reset();
+    defineColumns(withholding, fund);
 }
 
 void OfficialLedgerList::defineColumns(bool withholding, bool fund)

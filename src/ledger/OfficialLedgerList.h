@@ -21,9 +21,11 @@ public:
     enum Side { Gelir = 0, Gider = 1 };
     enum Column { Sira = 0, Tarih, Evrak, Ack, Matrah };
 
-    // withholding and fund: whether the income list shows those columns.
-    OfficialLedgerList(int side, bool withholding, bool fund, QWidget *parent = nullptr);
+    explicit OfficialLedgerList(QWidget *parent = nullptr);
 
+    // Empties the list for a side's book; withholding and fund: whether an income list shows
+    // those columns.
+    void showBook(int side, bool withholding, bool fund);
     // A numbered row (number 0: the row that carries in the sums before the range).
     void addRow(int sira, const QString &date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts);
     // Prints the listed rows with the print engine kind (Prnx::Graphic or Prnx::Raw).
@@ -35,6 +37,6 @@ private:
     void pageTop(class Prnx &prnx, bool income) const;
     Currency amountAt(int row, const QString &name) const;
 
-    int m_side;
+    int m_side = Gelir;
     DcList *m_list;
 };

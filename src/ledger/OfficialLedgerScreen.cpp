@@ -132,10 +132,11 @@ void OfficialLedgerScreen::fill(int kind)
     if (dayIn(LastDate) != 0)
         to = qMin(to, dayIn(LastDate));
 
-    if (m_listScreen)
-        m_listScreen->closeScreen();
-    m_listScreen = new OfficialLedgerList(side, m_withholding->isChecked(), m_fund->isChecked());
-    m_listScreen->setAttribute(Qt::WA_DeleteOnClose);
+    if (!m_listScreen) {
+        m_listScreen = new OfficialLedgerList;
+        m_listScreen->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_listScreen->showBook(side, m_withholding->isChecked(), m_fund->isChecked());
     OpenInMain(m_listScreen);
     const qint64 firstNo = m_fields[FirstNo]->Value().toLongLong();
     const qint64 lastNo = m_fields[LastNo]->Value().toLongLong();

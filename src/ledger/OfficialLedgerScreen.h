@@ -21,7 +21,7 @@ public:
 
     void listOnScreen();
     void print();
-    // The list of the last fill (null once it was closed).
+    // The list that the fills show (null until the first and once it was closed).
     OfficialLedgerList *listScreen() const { return m_listScreen; }
 
 private:

@@ -4,12 +4,14 @@
 #include "core/DataFiles.h"
 #include "core/Postings.h"
 
-bool AddCard(const QString &code, const QString &title)
+bool AddCard(const QString &code, const QString &title, const QString &taxNumber, const QString &taxOffice)
 {
     Recordset &cards = *dataFiles().carkart;
     RsAddNew(cards);
     FieldWrite(cards, QStringLiteral("kod"), code);
     FieldWrite(cards, QStringLiteral("unv"), title);
+    FieldWrite(cards, QStringLiteral("vn"), taxNumber);
+    FieldWrite(cards, QStringLiteral("vd"), taxOffice);
     return RsUpdate(cards);
 }
 
