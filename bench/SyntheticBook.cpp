@@ -110,6 +110,7 @@ sqlite3 *openBook(const QString &folder, bool (*fillBook)(sqlite3 *))
     sqlite3 *raw = nullptr;
     sqlite3_open_v2(DataFilePath().toUtf8().constData(), &raw, SQLITE_OPEN_READWRITE, nullptr);
     registerSqlFunctions(raw);
+    run(raw, "PRAGMA cache_size=-32768"); // the program's page cache
     return raw;
 }
 

@@ -67,8 +67,10 @@ const std::vector<TableSpec> &schema()
                 { u"brut", FieldType::Currency, 0, false, 0 }, { u"stopaj", FieldType::Currency, 0, false, 0 },
                 { u"fon", FieldType::Currency, 0, false, 0 }, { u"kdv", FieldType::Currency, 0, false, 0 },
                 { u"oto", FieldType::Long, 0, false, AutoIncrementField } },
-            // tarihislem serves the book of a year and the monthly report, which read by date.
-            { { u"oto", u"oto", false, true, false }, { u"tarihislem", u"tarih;islem", false, false, false } } },
+            // tarihislem serves the book of a year and the monthly report, which read by date;
+            // islemcari the withholding list, which reads the income rows by payer and date.
+            { { u"oto", u"oto", false, true, false }, { u"tarihislem", u"tarih;islem", false, false, false },
+                { u"islemcari", u"islem;cari;tarih", false, false, false } } },
         { u"duzen", u"Dizayn ", u"Dizayn ",
             { { u"sira", FieldType::Long, 0, true, AutoIncrementField }, { u"no", FieldType::Integer, 0, false, 0 },
                 { u"uzun", FieldType::Single, 0, false, 0 }, { u"sol", FieldType::Single, 0, false, 0 },
