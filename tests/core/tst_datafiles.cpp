@@ -102,7 +102,7 @@ void TestDataFiles::schema_data()
                             << QStringList { "sira SMALLINT", "tarih DATE", "islem TINYINT", "evrak TEXT(8)",
                                    "cari TEXT(8)", "ack TEXT(40)", "brut CURRENCY", "stopaj CURRENCY", "fon CURRENCY",
                                    "kdv CURRENCY", "oto INTEGER" }
-                            << QStringList { "defter_tarihislem 0" };
+                            << QStringList { "defter_islemcari 0", "defter_tarihislem 0" };
     QTest::newRow("duzen") << "duzen"
                            << QStringList { "sira INTEGER", "no SMALLINT", "uzun FLOAT", "sol FLOAT", "ust FLOAT",
                                   "txt TEXT(40)" }
