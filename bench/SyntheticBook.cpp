@@ -51,7 +51,8 @@ bool fill(sqlite3 *db)
     sqlite3_finalize(card);
     sqlite3_stmt *row = nullptr;
     sqlite3_prepare_v2(db,
-        "INSERT INTO carhar (kod, tarih, islem, evrak, ack, ba, tutar) VALUES (?1, ?2, ?3, 'E1', 'Danışmanlık', ?4, ?5)",
+        "INSERT INTO carhar (kod, tarih, islem, evrak, ack, ba, tutar) VALUES (?1, ?2, ?3, 'E1', 'Danışmanlık', ?4, "
+        "?5)",
         -1, &row, nullptr);
     for (int i = 0; i < transactions; ++i) {
         const QByteArray code = accountCode(i < bigAccountRows ? 0 : account(random)).toUtf8();

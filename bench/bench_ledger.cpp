@@ -5,22 +5,22 @@
 // the official book's income pages printed on a dot-matrix channel that takes the bytes.
 
 #include "controls/DcList.h"
+#include "controls/XText.h"
 #include "core/Clock.h"
 #include "core/DataFiles.h"
+#include "core/Parameters.h"
 #include "core/SqlFunctions.h"
 #include "ledger/LedgerScreen.h"
-#include "controls/XText.h"
-#include "core/Parameters.h"
 #include "ledger/MonthlyReportScreen.h"
 #include "ledger/OfficialLedgerList.h"
 #include "ledger/OfficialLedgerScreen.h"
 #include "ledger/WithholdingListScreen.h"
+#include "money/AmountConventions.h"
+#include "money/DayNumber.h"
 #include "printing/DosPrint.h"
 #include "printing/PrintSettings.h"
 #include "printing/Prnx.h"
 #include "printing/RawChannel.h"
-#include "money/AmountConventions.h"
-#include "money/DayNumber.h"
 
 #include "SyntheticBook.h"
 
@@ -124,8 +124,8 @@ int main(int argc, char *argv[])
     const double bestBook = medianMicroseconds(7, [&] { readAll(raw, bookSql, { first, last }); });
     const double bestOfficial = medianMicroseconds(7, [&] { readAll(raw, officialSql, { first, last }); });
     const double bestWithholding = medianMicroseconds(7, [&] { readAll(raw, withholdingSql, {}); });
-    sqlite3_exec(raw, "DROP INDEX best_report; DROP INDEX best_book; DROP INDEX best_withholding;", nullptr, nullptr,
-        nullptr);
+    sqlite3_exec(
+        raw, "DROP INDEX best_report; DROP INDEX best_book; DROP INDEX best_withholding;", nullptr, nullptr, nullptr);
     sqlite3_close(raw);
 
     parameters().unvan = QStringLiteral("Av. Deniz Kaya");
@@ -140,7 +140,8 @@ int main(int argc, char *argv[])
     const double printMs = double(clock.nsecsElapsed()) / 1e6;
 
     printHeader();
-    printRow(QStringLiteral("Kdv, Stopaj Raporu: the year by month"), computeReport, rawReport, bestReport, "<= 100 ms");
+    printRow(
+        QStringLiteral("Kdv, Stopaj Raporu: the year by month"), computeReport, rawReport, bestReport, "<= 100 ms");
     printRow(QStringLiteral("Serbest Meslek Defteri: %1 income rows listed").arg(listed), listBook, rawBook, bestBook,
         "<= 200 ms");
     printRow(QStringLiteral("Resmi defter: %1 income rows listed").arg(officialRows), listOfficial, rawOfficial,

@@ -54,7 +54,7 @@ AccountTransactionsScreen::AccountTransactionsScreen(QWidget *parent)
     m_title->setMinimumWidth(300);
     m_type->setObjectName(QStringLiteral("cariTip"));
     defineColumns();
-    fitListToColumns();
+    list()->fitToColumns();
     list()->setAccessibleName(QStringLiteral("Hareketler"));
     list()->view()->setAccessibleName(QStringLiteral("Hareketler"));
     setKeyColumn(Oto);
@@ -107,8 +107,10 @@ void AccountTransactionsScreen::defineColumns()
     grid->Add(QStringLiteral("a"), QStringLiteral("ack"), QStringLiteral("Açıklama"), 200, 40, 0, 0, 0);
     grid->Add(QStringLiteral("a"), QStringLiteral("islem"), QStringLiteral("İşlem"), 90, 50, 6, 0, 0);
     grid->Add(QStringLiteral("s"), QStringLiteral("ba"), QStringLiteral("B/A"), 35, 1, 6, 0, 0);
-    grid->Add(QStringLiteral("n"), QStringLiteral("tutar"), QStringLiteral("Tutar"), 110, 999999999999999.0, 2, onda, 3);
-    grid->Add(QStringLiteral("b"), QStringLiteral("bakiye"), QStringLiteral("Bakiye"), 110, 999999999999999.0, 2, onda, 3);
+    grid->Add(
+        QStringLiteral("n"), QStringLiteral("tutar"), QStringLiteral("Tutar"), 110, 999999999999999.0, 2, onda, 3);
+    grid->Add(
+        QStringLiteral("b"), QStringLiteral("bakiye"), QStringLiteral("Bakiye"), 110, 999999999999999.0, 2, onda, 3);
     grid->Add(QStringLiteral("m"), QStringLiteral("oto"), QString(), 0, 0, 0, 0, 0);
 }
 
@@ -123,8 +125,7 @@ QFrame *AccountTransactionsScreen::makeTypePanel()
         auto *choice = new QPushButton(u' ' + QString::fromUtf16(label), panel);
         choice->setFlat(true);
         choice->setFocusPolicy(Qt::NoFocus);
-        connect(choice, &QPushButton::clicked, this,
-            [this, choice] { list()->SetTextBox(choice->text().trimmed()); });
+        connect(choice, &QPushButton::clicked, this, [this, choice] { list()->SetTextBox(choice->text().trimmed()); });
         layout->addWidget(choice);
     }
     panel->hide();

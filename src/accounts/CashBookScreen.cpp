@@ -51,7 +51,7 @@ CashBookScreen::CashBookScreen(QWidget *parent)
     m_date->setValue(Today());
     m_date->textBox()->installEventFilter(this);
     defineColumns();
-    fitListToColumns();
+    list()->fitToColumns();
     list()->setAccessibleName(QStringLiteral("Kasa Hareketleri"));
     list()->view()->setAccessibleName(QStringLiteral("Kasa Hareketleri"));
     setKeyColumn(Oto);
@@ -214,8 +214,8 @@ void CashBookScreen::showPosition()
 {
     const auto carried = oneSide(m_carryDebit, m_carryCredit);
     const auto position = oneSide(m_carryDebit + m_dayDebit, m_carryCredit + m_dayCredit);
-    const Currency amounts[3][2] = { { m_dayDebit, m_dayCredit }, { carried.first, carried.second },
-        { position.first, position.second } };
+    const Currency amounts[3][2]
+        = { { m_dayDebit, m_dayCredit }, { carried.first, carried.second }, { position.first, position.second } };
     for (int r = 0; r < 3; ++r)
         for (int c = 0; c < 2; ++c)
             m_position[r][c]->setValue(FormatAmount(amounts[r][c]));
@@ -340,14 +340,14 @@ void CashBookScreen::print()
     page.printRules();
     const DcList *grid = list();
     for (int row = 0; row < grid->ListCount(); ++row)
-        page.printCells({ grid->Caption(row, Kod), grid->Caption(row, Em), grid->Caption(row, Evrak),
-            grid->Caption(row, Ack), QVariant::fromValue(amountAt(row, Borc)),
-            QVariant::fromValue(amountAt(row, Alacak)) });
+        page.printCells(
+            { grid->Caption(row, Kod), grid->Caption(row, Em), grid->Caption(row, Evrak), grid->Caption(row, Ack),
+                QVariant::fromValue(amountAt(row, Borc)), QVariant::fromValue(amountAt(row, Alacak)) });
     page.printRules();
     const char16_t *captions[] = { u"TOPLAM:", u"DEVREDEN:", u"GENEL TOPLAM:" };
     for (int r = 0; r < 3; ++r)
-        page.printCaptionLine(QString::fromUtf16(captions[r]), { m_position[r][0]->value(), m_position[r][1]->value() },
-            false, 0);
+        page.printCaptionLine(
+            QString::fromUtf16(captions[r]), { m_position[r][0]->value(), m_position[r][1]->value() }, false, 0);
     page.printRules();
     prnx.SayfaBitti(true);
     prnx.ClosePrinter();

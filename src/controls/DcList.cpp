@@ -313,6 +313,15 @@ void DcList::sorting(int col)
     QApplication::restoreOverrideCursor();
 }
 
+void DcList::fitToColumns(int rows)
+{
+    int width = 0;
+    for (int c = 0; c < m_model->columnCount(); ++c)
+        width += Size(c);
+    const int frame = 2 * m_view->frameWidth() + m_view->verticalScrollBar()->sizeHint().width();
+    setMinimumSize(width + frame, rows * m_view->verticalHeader()->defaultSectionSize());
+}
+
 bool DcList::SendExel(const QString &title, const QString &text2, const QString &text3, const QString &text4)
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);

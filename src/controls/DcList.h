@@ -90,6 +90,8 @@ public:
     void setBaslikVar(bool on);
     // 0 no scroll bars, 1 vertical, 2 horizontal, 3 both.
     void setScroll(int bars);
+    // Asks for room to show every column and the given number of rows.
+    void fitToColumns(int rows = 12);
     void setBgColor(const QColor &colour);
     void setPassiveTextColor(const QColor &text, const QColor &back);
     void setZebraTextColor(const QColor &text, const QColor &back);

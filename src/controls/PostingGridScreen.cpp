@@ -3,8 +3,6 @@
 #include "controls/DcList.h"
 #include "core/Message.h"
 
-#include <QHeaderView>
-#include <QScrollBar>
 #include <QTableView>
 
 PostingGridScreen::PostingGridScreen(const QString &formName, const QString &caption, PostingBook book, QWidget *parent)
@@ -32,15 +30,6 @@ void PostingGridScreen::rowStored(qint64 oto)
     m_list->OkUpdateData();
     recompute(m_list->CurSat());
     m_list->MoveNext();
-}
-
-void PostingGridScreen::fitListToColumns()
-{
-    int width = 0;
-    for (int c = 0; c < m_list->view()->model()->columnCount(); ++c)
-        width += m_list->Size(c);
-    const int frame = 2 * m_list->view()->frameWidth() + m_list->view()->verticalScrollBar()->sizeHint().width();
-    m_list->setMinimumSize(width + frame, 12 * m_list->view()->verticalHeader()->defaultSectionSize());
 }
 
 void PostingGridScreen::endListing()

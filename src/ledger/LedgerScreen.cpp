@@ -24,8 +24,8 @@
 
 namespace {
 
-const char16_t *const labelCaptions[] = { u"Satır Net Tutar", u"Toplam Brüt", u"Toplam Stopaj", u"Toplam Fon",
-    u"Toplam Kdv" };
+const char16_t *const labelCaptions[]
+    = { u"Satır Net Tutar", u"Toplam Brüt", u"Toplam Stopaj", u"Toplam Fon", u"Toplam Kdv" };
 
 } // namespace
 
@@ -90,7 +90,7 @@ void LedgerScreen::showBook(int book)
     list()->Clear();
     m_labels[0]->setValue(QString());
     defineColumns();
-    fitListToColumns();
+    list()->fitToColumns();
     if (!m_waiting)
         load();
 }
@@ -161,10 +161,9 @@ void LedgerScreen::showRowNet(int row)
     if (m_book != Gelir)
         return;
     const Currency gross = amountAt(row, Brut);
-    m_labels[0]->setValue(gross <= Currency() ? QString()
-                                              : FormatAmount(gross - (amountAt(row, Stopaj) + amountAt(row, Fon))
-                                                      + amountAt(row, Kdv),
-                                                  3));
+    m_labels[0]->setValue(gross <= Currency()
+            ? QString()
+            : FormatAmount(gross - (amountAt(row, Stopaj) + amountAt(row, Fon)) + amountAt(row, Kdv), 3));
 }
 
 // A row keeps what the screen does not show (its account code and number), as it was stored.

@@ -36,20 +36,22 @@ OfficialLedgerList::OfficialLedgerList(QWidget *parent)
     m_list->setScroll(3);
     auto *page = new QVBoxLayout(this);
     page->addWidget(m_list);
-    resize(820, 480);
     setFocusChain({ m_list });
 }
 
 void OfficialLedgerList::showBook(int side, bool withholding, bool fund)
 {
     m_side = side;
-    setWindowTitle(
-        side == Gelir ? QStringLiteral("Serbest Meslek Defteri (Gelir)") : QStringLiteral("Serbest Meslek Defteri (Gider)"));
+    setWindowTitle(side == Gelir ? QStringLiteral("Serbest Meslek Defteri (Gelir)")
+                                 : QStringLiteral("Serbest Meslek Defteri (Gider)"));
     m_list->setAccessibleName(windowTitle());
     m_list->view()->setAccessibleName(windowTitle());
     m_list->Clear();
     m_list->Reset();
     defineColumns(withholding, fund);
+    m_list->fitToColumns(16);
+    if (parentWidget())
+        parentWidget()->adjustSize();
 }
 
 void OfficialLedgerList::defineColumns(bool withholding, bool fund)
@@ -61,12 +63,15 @@ void OfficialLedgerList::defineColumns(bool withholding, bool fund)
     m_list->Add(QStringLiteral("t"), QStringLiteral("tarih"), QStringLiteral("Tarih"), 90, 10, 0, 0, 0);
     m_list->Add(QStringLiteral("a"), QStringLiteral("evrak"), QStringLiteral("Evrak"), 80, 8, 0, 0, 0);
     m_list->Add(QStringLiteral("a"), QStringLiteral("ack"), QStringLiteral("Açıklama"), textWidth, 40, 0, 0, 0);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("matrah"), QStringLiteral("Matrah"), amountWidth, amountLimit, 0, onda, 3);
+    m_list->Add(
+        QStringLiteral("n"), QStringLiteral("matrah"), QStringLiteral("Matrah"), amountWidth, amountLimit, 0, onda, 3);
     if (m_side == Gelir && withholding)
-        m_list->Add(QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, amountLimit, 0, onda, 3);
+        m_list->Add(
+            QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, amountLimit, 0, onda, 3);
     if (m_side == Gelir && fund)
         m_list->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, amountLimit, 0, onda, 3);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("kdv"), QStringLiteral("Kdv"), amountWidth, amountLimit, 0, onda, 3);
+    m_list->Add(
+        QStringLiteral("n"), QStringLiteral("kdv"), QStringLiteral("Kdv"), amountWidth, amountLimit, 0, onda, 3);
 }
 
 void OfficialLedgerList::addRow(
@@ -99,14 +104,14 @@ void OfficialLedgerList::yazdir(int kind, int side)
     }
     Prnx prnx;
     const bool income = side == Gelir;
-    if (!prnx.OpenPrinter(kind, income ? QStringLiteral("SM Defteri (Gelir)") : QStringLiteral("SM Defteri (Gider)"),
-            true)) {
+    if (!prnx.OpenPrinter(
+            kind, income ? QStringLiteral("SM Defteri (Gelir)") : QStringLiteral("SM Defteri (Gider)"), true)) {
         Message::exclamation(QStringLiteral("Yazıcı Açılamadı"));
         return;
     }
     ReportLayout layout;
-    layout.columns = { { QStringLiteral("Sıra"), 4, 1 }, { QStringLiteral("Tarih"), 12 }, { QStringLiteral("Evrak"), 10 },
-        { QStringLiteral("Açıklama"), 42 } };
+    layout.columns = { { QStringLiteral("Sıra"), 4, 1 }, { QStringLiteral("Tarih"), 12 },
+        { QStringLiteral("Evrak"), 10 }, { QStringLiteral("Açıklama"), 42 } };
     if (income)
         layout.columns.insert(layout.columns.end(),
             { { QStringLiteral("Gelir"), 15, 1, true }, { QStringLiteral("Stopaj"), 12, 1, true },
@@ -144,8 +149,8 @@ void OfficialLedgerList::pageTop(Prnx &prnx, bool income) const
     const PrintSettings &record = printSettings();
     prnx.Lprint(QStringLiteral(" "), 1, true);
     if (record.titleHeading)
-        prnx.Lprint(record.title + (income ? QStringLiteral(" (GELIR)") : QStringLiteral(" (GIDER)")), 115,
-            true, 2, true);
+        prnx.Lprint(
+            record.title + (income ? QStringLiteral(" (GELIR)") : QStringLiteral(" (GIDER)")), 115, true, 2, true);
     if (record.companyHeading) {
         prnx.Lprint(QStringLiteral("Ünvan :"), 7, false, 1);
         prnx.Lprint(parameters().unvan.trimmed(), 43);

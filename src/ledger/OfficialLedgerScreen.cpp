@@ -27,7 +27,8 @@ enum Field { FirstNo = 0, LastNo, FirstDate, LastDate };
 LedgerAmounts amountsOf(const Recordset &row)
 {
     return { FieldRead(row, QStringLiteral("brut")).value<Currency>(),
-        FieldRead(row, QStringLiteral("stopaj")).value<Currency>(), FieldRead(row, QStringLiteral("fon")).value<Currency>(),
+        FieldRead(row, QStringLiteral("stopaj")).value<Currency>(),
+        FieldRead(row, QStringLiteral("fon")).value<Currency>(),
         FieldRead(row, QStringLiteral("kdv")).value<Currency>() };
 }
 
@@ -64,7 +65,8 @@ OfficialLedgerScreen::OfficialLedgerScreen(QWidget *parent)
         auto *grid = new QGridLayout(box);
         for (int end = 0; end < 2; ++end) {
             XText *field = m_fields[2 * g + end];
-            grid->addWidget(LabelFor(end == 0 ? QStringLiteral("Başlangıç") : QStringLiteral("Bitiş"), field, box), end, 0);
+            grid->addWidget(
+                LabelFor(end == 0 ? QStringLiteral("Başlangıç") : QStringLiteral("Bitiş"), field, box), end, 0);
             grid->addWidget(field, end, 1);
             field->setAccessibleDescription(box->title());
         }
@@ -79,8 +81,8 @@ OfficialLedgerScreen::OfficialLedgerScreen(QWidget *parent)
     page->addWidget(m_withholding);
     page->addWidget(m_fund);
     page->addLayout(buttons);
-    setFocusChain({ m_side, m_fields[FirstNo], m_fields[LastNo], m_fields[FirstDate], m_fields[LastDate],
-        m_withholding, m_fund, printButton, listButton });
+    setFocusChain({ m_side, m_fields[FirstNo], m_fields[LastNo], m_fields[FirstDate], m_fields[LastDate], m_withholding,
+        m_fund, printButton, listButton });
 }
 
 XText *OfficialLedgerScreen::makeField(int index, int format, double maximum)
@@ -152,10 +154,10 @@ void OfficialLedgerScreen::fill(int kind)
                 if (!listed && carried.brut > Currency())
                     m_listScreen->addRow(0, QString(), QString(), QStringLiteral("Devir...."), carried);
                 listed = true;
-                m_listScreen->addRow(counter, FieldRead(*rows, QStringLiteral("tarih")).toDate().toString(
-                                                  QStringLiteral("dd.MM.yyyy")),
-                    FieldRead(*rows, QStringLiteral("evrak")).toString(), FieldRead(*rows, QStringLiteral("ack")).toString(),
-                    amounts);
+                m_listScreen->addRow(counter,
+                    FieldRead(*rows, QStringLiteral("tarih")).toDate().toString(QStringLiteral("dd.MM.yyyy")),
+                    FieldRead(*rows, QStringLiteral("evrak")).toString(),
+                    FieldRead(*rows, QStringLiteral("ack")).toString(), amounts);
             }
             carried += amounts;
         }

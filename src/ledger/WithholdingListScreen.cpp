@@ -33,6 +33,7 @@ WithholdingListScreen::WithholdingListScreen(QWidget *parent)
     m_list->setEditable(false);
     m_list->setScroll(1);
     defineColumns();
+    m_list->fitToColumns(16);
     m_totalGross->setObjectName(QStringLiteral("Label3_1"));
     m_totalGross->showAsAmount(115);
     m_totalTax->setObjectName(QStringLiteral("Label3_0"));
@@ -61,7 +62,6 @@ WithholdingListScreen::WithholdingListScreen(QWidget *parent)
     page->addLayout(top);
     page->addWidget(m_list, 1);
     page->addLayout(totals);
-    resize(800, 480);
     connect(m_list, &DcList::ListFocused, this, &WithholdingListScreen::listEntered);
     setFocusChain({ m_dates[0], m_dates[1], m_list, printButton, sheetButton });
 }
@@ -129,8 +129,8 @@ void WithholdingListScreen::load(const QString &sql, const QVariantList &values)
             m_list->setCaption(row, VerNo, FieldRead(*rows, QStringLiteral("verno")).toString());
             m_list->setCaption(row, VerDa, FieldRead(*rows, QStringLiteral("verda")).toString());
             m_list->setCaption(row, Tur, QStringLiteral("SMK"));
-            m_list->setCaption(row, Donem,
-                FieldRead(*rows, QStringLiteral("donem")).toDate().toString(QStringLiteral("dd.MM.yyyy")));
+            m_list->setCaption(
+                row, Donem, FieldRead(*rows, QStringLiteral("donem")).toDate().toString(QStringLiteral("dd.MM.yyyy")));
             m_list->setCaption(row, Brut, brut.toString());
             m_list->setCaption(row, Vergi, vergi.toString());
             gross += brut;
@@ -151,10 +151,10 @@ void WithholdingListScreen::print()
     if (kind == 0 || !prnx.OpenPrinter(kind, printSettings().title, true))
         return;
     ReportLayout layout;
-    layout.columns = { { QStringLiteral("Sira"), 4, 1 }, { QStringLiteral("Ad Soyad"), 40 },
-        { QStringLiteral("Vergi No"), 15 }, { QStringLiteral("Vergi Daire"), 15 }, { QStringLiteral("Tür"), 4 },
-        { QStringLiteral("Dönem"), 12 }, { QStringLiteral("Brüt Tutar"), 15, 1, true },
-        { QStringLiteral("Vergi Tutar"), 15, 1, true } };
+    layout.columns
+        = { { QStringLiteral("Sira"), 4, 1 }, { QStringLiteral("Ad Soyad"), 40 }, { QStringLiteral("Vergi No"), 15 },
+              { QStringLiteral("Vergi Daire"), 15 }, { QStringLiteral("Tür"), 4 }, { QStringLiteral("Dönem"), 12 },
+              { QStringLiteral("Brüt Tutar"), 15, 1, true }, { QStringLiteral("Vergi Tutar"), 15, 1, true } };
     layout.pageTop = [this](Prnx &printer) { pageTop(printer); };
     layout.footRoom = 0;
     layout.captionWidth = 94;

@@ -97,8 +97,8 @@ void PagedReport::printCells(const QVariantList &cells)
     const auto &columns = m_layout.columns;
     for (size_t c = 0; c < columns.size(); ++c) {
         const QVariant cell = cells.value(int(c));
-        const QString text = cell.userType() == qMetaTypeId<Currency>() ? FormatAmount(cell.value<Currency>())
-                                                                         : cell.toString();
+        const QString text
+            = cell.userType() == qMetaTypeId<Currency>() ? FormatAmount(cell.value<Currency>()) : cell.toString();
         const bool last = c + 1 == columns.size();
         m_prnx.Lprint(text, columns[c].width, last, columns[c].align);
         if (!last)

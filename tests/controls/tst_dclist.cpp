@@ -1,10 +1,10 @@
 #include "controls/DcCellEditor.h"
 #include "controls/DcList.h"
 #include "controls/SpreadsheetExport.h"
-#include "testsupport/SheetCells.h"
 #include "core/Clock.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/ScreenFixture.h"
+#include "testsupport/SheetCells.h"
 #include "testsupport/Typing.h"
 
 #include <QAbstractItemModelTester>

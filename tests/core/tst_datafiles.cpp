@@ -129,12 +129,14 @@ void TestDataFiles::olderFileGetsItsLookupIndex()
     SetProgramFolder(m_dir->path());
     QVERIFY(CreateDataFiles());
     QVERIFY(OpenDataFiles());
-    QVERIFY(SqlExecute(*dataFiles().db, QStringLiteral("INSERT INTO carhar (kod, islem, ba, tutar) VALUES ('K1', 1, 0, 5)")));
+    QVERIFY(SqlExecute(
+        *dataFiles().db, QStringLiteral("INSERT INTO carhar (kod, islem, ba, tutar) VALUES ('K1', 1, 0, 5)")));
     QVERIFY(SqlExecute(*dataFiles().db, QStringLiteral("DROP INDEX carhar_islemtarih"))); // as a file made before it
     QVERIFY(OpenDataFiles());
     const QString indexes = QStringLiteral("SELECT name FROM pragma_index_list('carhar') ORDER BY name");
     QCOMPARE(QueryTexts(indexes, QStringLiteral("name")), QStringList({ "carhar_islemtarih", "carhar_kodtarih" }));
-    QCOMPARE(QueryTexts(QStringLiteral("SELECT kod || tutar AS r FROM carhar"), QStringLiteral("r")), QStringList { "K15" });
+    QCOMPARE(
+        QueryTexts(QStringLiteral("SELECT kod || tutar AS r FROM carhar"), QStringLiteral("r")), QStringList { "K15" });
 }
 
 void TestDataFiles::secondStartOpensTheSameFile()

@@ -25,8 +25,9 @@ void book(int islem, QDate date, qint64 brut, qint64 stopaj, qint64 fon, qint64 
 
 QStringList storedRows()
 {
-    return QueryTexts(QStringLiteral("SELECT islem || ':' || tarih || ':' || evrak || ':' || cari || ':' || ack || ':' "
-                                     "|| brut || ':' || stopaj || ':' || fon || ':' || kdv AS r FROM defter ORDER BY oto"),
+    return QueryTexts(
+        QStringLiteral("SELECT islem || ':' || tarih || ':' || evrak || ':' || cari || ':' || ack || ':' "
+                       "|| brut || ':' || stopaj || ':' || fon || ':' || kdv AS r FROM defter ORDER BY oto"),
         QStringLiteral("r"));
 }
 

@@ -113,10 +113,7 @@ private slots:
     void printerThatDoesNotOpen();
 
 private:
-    XText *field(int index) const
-    {
-        return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index));
-    }
+    XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
     QStringList shownColumn(int column) const;
     QByteArray printRaw(const std::function<void(QWidget *)> &dialog = {});
 
@@ -261,7 +258,8 @@ void TestOfficialLedger::columnsFollowTheSideAndTheSwitches()
     QCOMPARE(names, columns);
     QCOMPARE(list->CaptionByName(0, QStringLiteral("kdv")), QStringLiteral("90"));
     QCOMPARE(m_screen->listScreen()->windowTitle(),
-        side == 0 ? QStringLiteral("Serbest Meslek Defteri (Gelir)") : QStringLiteral("Serbest Meslek Defteri (Gider)"));
+        side == 0 ? QStringLiteral("Serbest Meslek Defteri (Gelir)")
+                  : QStringLiteral("Serbest Meslek Defteri (Gider)"));
 }
 
 void TestOfficialLedger::printedPagesCarryTheirTotals_data()
@@ -289,7 +287,8 @@ void TestOfficialLedger::printedPagesCarryTheirTotals()
     for (int n = 1; n <= rows; ++n) {
         const int onPage = (n - 1) % 54;
         if (onPage == 0)
-            expected.head(n - 1, pageNumbers ? QStringLiteral("%1").arg(n / 54 + 1, 3, 10, QLatin1Char('0')) : QString());
+            expected.head(
+                n - 1, pageNumbers ? QStringLiteral("%1").arg(n / 54 + 1, 3, 10, QLatin1Char('0')) : QString());
         expected.row(n);
         if (onPage == 53 || n == rows)
             expected.foot(n);
@@ -300,8 +299,8 @@ void TestOfficialLedger::printedPagesCarryTheirTotals()
 
 void TestOfficialLedger::expensePageAddsOnlyTheVat()
 {
-    QVERIFY(AddLedgerRow(1, QDate(2026, 3, 2), { 500, 0, 0, 90 }, QString(), QStringLiteral("F7"),
-        QStringLiteral("Kırtasiye")));
+    QVERIFY(AddLedgerRow(
+        1, QDate(2026, 3, 2), { 500, 0, 0, 90 }, QString(), QStringLiteral("F7"), QStringLiteral("Kırtasiye")));
     m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(1);
     printSettings().dotMatrix = true;
     const QByteArray before = m_spooler->received();
@@ -311,7 +310,20 @@ void TestOfficialLedger::expensePageAddsOnlyTheVat()
     QTest::qWait(500);
     ExpectedRawPage page;
     const auto rule = [&page] {
-        page.rule(4).gap().rule(12).gap().rule(10).gap().rule(42).gap().rule(15).gap().rule(12).gap().rule(15).endLine();
+        page.rule(4)
+            .gap()
+            .rule(12)
+            .gap()
+            .rule(10)
+            .gap()
+            .rule(42)
+            .gap()
+            .rule(15)
+            .gap()
+            .rule(12)
+            .gap()
+            .rule(15)
+            .endLine();
     };
     page.raw(QByteArray("\x0f", 1)).field(QStringLiteral(" "), 1).endLine();
     page.bold(QStringLiteral("SERBEST MESLEK DEFTERİ (GIDER)"), 115, 2).endLine();
@@ -347,7 +359,8 @@ void TestOfficialLedger::printedAsPdf()
     // pdftotext may close up the spaced captions: compare without blanks.
     const QStringList pages = PdfText(printSettings().pdfFile).remove(u' ').split(u'\f', Qt::SkipEmptyParts);
     QVERIFY(pages.size() >= 2);
-    const auto has = [](const QString &page, const char *text) { return page.contains(QString::fromUtf8(text).remove(u' ')); };
+    const auto has
+        = [](const QString &page, const char *text) { return page.contains(QString::fromUtf8(text).remove(u' ')); };
     for (const char *expected : { "SERBEST MESLEK DEFTERİ (GELIR)", "Ünvan :", "Av. Deniz Kaya", "Hes.Kdv.", "Kayıt 1",
              "1,380.00", "T O P L A M :" })
         QVERIFY2(has(pages.first(), expected), expected);

@@ -167,8 +167,8 @@ void TestWithholdingList::printedPagesOnTheDotMatrixPrinter()
         page.bold(QStringLiteral("Stopaj Listesi"), 130, 2).endLine();
         page.field(QStringLiteral("Dönem :01.01.2026 - 31.12.2026"), 130).endLine();
         page.field(QStringLiteral(" "), 1).endLine();
-        const char16_t *heads[] = { u"Sira", u"Ad Soyad", u"Vergi No", u"Vergi Daire", u"Tür", u"Dönem",
-            u"Brüt Tutar", u"Vergi Tutar" };
+        const char16_t *heads[]
+            = { u"Sira", u"Ad Soyad", u"Vergi No", u"Vergi Daire", u"Tür", u"Dönem", u"Brüt Tutar", u"Vergi Tutar" };
         const int widths[] = { 4, 40, 15, 15, 4, 12, 15, 15 };
         for (int c = 0; c < 8; ++c) {
             page.bold(QString::fromUtf16(heads[c]), widths[c]);
@@ -216,8 +216,8 @@ void TestWithholdingList::printedAsPdf()
     m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click();
     QVERIFY(!printSettings().dotMatrix);
     const QString pdf = PdfText(printSettings().pdfFile).remove(u' ');
-    for (const char *expected : { "StopajListesi", "Dönem:??.??.????\x2d??.??.????", "KayaHukukLtd.", "1234567890", "SMK", "02.01.2026",
-             "TOPLAM:", "200.00", "40.00" })
+    for (const char *expected : { "StopajListesi", "Dönem:??.??.????\x2d??.??.????", "KayaHukukLtd.", "1234567890",
+             "SMK", "02.01.2026", "TOPLAM:", "200.00", "40.00" })
         QVERIFY2(pdf.contains(QString::fromUtf8(expected)), expected);
     QCOMPARE(pdf.count(u'\f'), 1);
 }

@@ -24,6 +24,7 @@ bool AddLedgerRow(int islem, QDate date, const LedgerAmountsInUnits &amounts, co
     const QString &ack)
 {
     return AddLedgerPosting({ 0, date, islem, evrak, cari, ack, Currency::fromUnits(amounts.brut),
-               Currency::fromUnits(amounts.stopaj), Currency::fromUnits(amounts.fon), Currency::fromUnits(amounts.kdv) })
+               Currency::fromUnits(amounts.stopaj), Currency::fromUnits(amounts.fon),
+               Currency::fromUnits(amounts.kdv) })
         > 0;
 }
