@@ -39,7 +39,6 @@ class TestCashBook : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void init();
     void cleanup();
     void opensOnToday();
@@ -82,21 +81,13 @@ private:
 
 void TestCashBook::initTestCase()
 {
-    m_spooler = std::make_unique<PrivateSpooler>();
+    m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("kasa"));
     QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
-    QVERIFY(m_spooler->addQueue(QStringLiteral("kasa")));
-}
-
-void TestCashBook::cleanupTestCase()
-{
-    m_spooler.reset();
 }
 
 void TestCashBook::init()
 {
-    SetToday(today);
-    ResetPrintSettings();
-    m_kit = std::make_unique<ScreenFixture>();
+    m_kit = std::make_unique<ScreenFixture>(today);
     QVERIFY(m_kit->isReady());
     amountConventions().tlonda = 2;
     QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk")));
@@ -108,7 +99,6 @@ void TestCashBook::init()
 void TestCashBook::cleanup()
 {
     m_kit.reset();
-    SetToday(QDate());
 }
 
 QStringList TestCashBook::positions() const

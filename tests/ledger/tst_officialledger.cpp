@@ -97,7 +97,6 @@ class TestOfficialLedger : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void init();
     void cleanup();
     void listingFromNumberFiveCarriesTheRowsBefore();
@@ -124,21 +123,13 @@ private:
 
 void TestOfficialLedger::initTestCase()
 {
-    m_spooler = std::make_unique<PrivateSpooler>();
+    m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("defter"));
     QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
-    QVERIFY(m_spooler->addQueue(QStringLiteral("defter")));
-}
-
-void TestOfficialLedger::cleanupTestCase()
-{
-    m_spooler.reset();
 }
 
 void TestOfficialLedger::init()
 {
-    SetToday(today);
-    ResetPrintSettings();
-    m_kit = std::make_unique<ScreenFixture>();
+    m_kit = std::make_unique<ScreenFixture>(today);
     QVERIFY(m_kit->isReady());
     amountConventions().tlonda = 2;
     parameters().unvan = QStringLiteral("  Av. Deniz Kaya ");
@@ -150,7 +141,6 @@ void TestOfficialLedger::init()
 void TestOfficialLedger::cleanup()
 {
     m_kit.reset();
-    SetToday(QDate());
 }
 
 QStringList TestOfficialLedger::shownColumn(int column) const

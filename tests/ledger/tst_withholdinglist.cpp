@@ -31,7 +31,6 @@ class TestWithholdingList : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void init();
     void cleanup();
     void listedByPayerAndDateWhenEntered();
@@ -64,21 +63,13 @@ private:
 
 void TestWithholdingList::initTestCase()
 {
-    m_spooler = std::make_unique<PrivateSpooler>();
+    m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("stopaj"));
     QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
-    QVERIFY(m_spooler->addQueue(QStringLiteral("stopaj")));
-}
-
-void TestWithholdingList::cleanupTestCase()
-{
-    m_spooler.reset();
 }
 
 void TestWithholdingList::init()
 {
-    SetToday(today);
-    ResetPrintSettings();
-    m_kit = std::make_unique<ScreenFixture>();
+    m_kit = std::make_unique<ScreenFixture>(today);
     QVERIFY(m_kit->isReady());
     amountConventions().tlonda = 2;
     QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk Ltd."), QStringLiteral("1234567890"),
@@ -91,7 +82,6 @@ void TestWithholdingList::init()
 void TestWithholdingList::cleanup()
 {
     m_kit.reset();
-    SetToday(QDate());
 }
 
 QStringList TestWithholdingList::shownRow(int row) const

@@ -46,7 +46,6 @@ class TestReceiptScreen : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void init();
     void cleanup();
     void fullReceiptIsPostedAndPrinted();
@@ -75,21 +74,13 @@ private:
 
 void TestReceiptScreen::initTestCase()
 {
-    m_spooler = std::make_unique<PrivateSpooler>();
+    m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("makbuz"));
     QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
-    QVERIFY(m_spooler->addQueue(QStringLiteral("makbuz")));
-}
-
-void TestReceiptScreen::cleanupTestCase()
-{
-    m_spooler.reset();
 }
 
 void TestReceiptScreen::init()
 {
-    SetToday(QDate(2026, 11, 16));
-    ResetPrintSettings();
-    m_kit = std::make_unique<ScreenFixture>();
+    m_kit = std::make_unique<ScreenFixture>(QDate(2026, 11, 16));
     QVERIFY(m_kit->isReady());
     GenelSingSet(QStringLiteral("stopaj"), 20);
     GenelSingSet(QStringLiteral("fon"), 10);
@@ -114,7 +105,6 @@ void TestReceiptScreen::init()
 void TestReceiptScreen::cleanup()
 {
     m_kit.reset();
-    SetToday(QDate());
 }
 
 void TestReceiptScreen::typeIn(QWidget *screen, int index, const QString &keys)

@@ -18,7 +18,7 @@ bool writeText(const QString &path, const QString &text)
 
 } // namespace
 
-PrivateSpooler::PrivateSpooler()
+PrivateSpooler::PrivateSpooler(const QString &queue)
 {
     m_socket = m_dir.filePath(QStringLiteral("cups.sock"));
     if (!m_dir.isValid() || !writeConfiguration()) {
@@ -52,6 +52,8 @@ PrivateSpooler::PrivateSpooler()
     m_ready = run(QStringLiteral("lpstat"), { QStringLiteral("-r") });
     if (!m_ready)
         m_error = QStringLiteral("the private scheduler does not answer");
+    else if (!queue.isEmpty() && !addQueue(queue))
+        m_ready = false;
 }
 
 PrivateSpooler::~PrivateSpooler()

@@ -14,7 +14,8 @@
 class PrivateSpooler
 {
 public:
-    PrivateSpooler();
+    // queue: a raw queue to add as the default one.
+    explicit PrivateSpooler(const QString &queue = QString());
     ~PrivateSpooler();
     PrivateSpooler(const PrivateSpooler &) = delete;
     PrivateSpooler &operator=(const PrivateSpooler &) = delete;

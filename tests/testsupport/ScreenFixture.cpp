@@ -3,6 +3,8 @@
 #include "controls/DcCellEditor.h"
 #include "controls/DcList.h"
 #include "controls/XText.h"
+#include "core/Clock.h"
+#include "printing/PrintSettings.h"
 #include "printing/PrinterSetupDialog.h"
 #include "testsupport/ProgramWindow.h"
 #include "testsupport/Typing.h"
@@ -12,12 +14,20 @@
 #include <QTimer>
 #include <QtTest>
 
-ScreenFixture::ScreenFixture() = default;
+ScreenFixture::ScreenFixture(QDate today)
+    : m_setsToday(today.isValid())
+{
+    if (m_setsToday)
+        SetToday(today);
+    ResetPrintSettings();
+}
 
 // The window goes first: its screens still reach the data file while they close.
 ScreenFixture::~ScreenFixture()
 {
     m_window.reset();
+    if (m_setsToday)
+        SetToday(QDate());
 }
 
 MainWindow &ScreenFixture::window()

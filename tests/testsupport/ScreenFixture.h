@@ -5,6 +5,7 @@
 #include "testsupport/TestDataFolder.h"
 
 #include <QAction>
+#include <QDate>
 
 #include <functional>
 #include <memory>
@@ -18,7 +19,9 @@ class XText;
 class ScreenFixture
 {
 public:
-    ScreenFixture();
+    // today: the day the program takes for today (none: the clock's). The print settings start
+    // afresh.
+    explicit ScreenFixture(QDate today = QDate());
     ~ScreenFixture();
     ScreenFixture(const ScreenFixture &) = delete;
     ScreenFixture &operator=(const ScreenFixture &) = delete;
@@ -38,6 +41,7 @@ private:
     MessageLog m_messages;
     TestDataFolder m_folder;
     std::unique_ptr<MainWindow> m_window;
+    bool m_setsToday;
 };
 
 // Presses a button of the printer settings dialog (by object name) as soon as it is shown,
