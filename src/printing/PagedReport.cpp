@@ -20,10 +20,15 @@ PagedReport::PagedReport(Prnx &prnx, ReportLayout layout)
             m_totals.push_back(Currency());
 }
 
-void PagedReport::printRow(const QVariantList &cells)
+void PagedReport::beginPage()
 {
     if (m_prnx.SatirSayisi() == 0)
         pageHead();
+}
+
+void PagedReport::printRow(const QVariantList &cells)
+{
+    beginPage();
     printCells(cells);
     size_t total = 0;
     for (size_t c = 0; c < m_layout.columns.size(); ++c) {
@@ -95,11 +100,12 @@ void PagedReport::printRules()
 void PagedReport::printCells(const QVariantList &cells)
 {
     const auto &columns = m_layout.columns;
-    for (size_t c = 0; c < columns.size(); ++c) {
+    const size_t count = qMin(columns.size(), size_t(cells.size()));
+    for (size_t c = 0; c < count; ++c) {
         const QVariant cell = cells.value(int(c));
         const QString text
             = cell.userType() == qMetaTypeId<Currency>() ? FormatAmount(cell.value<Currency>()) : cell.toString();
-        const bool last = c + 1 == columns.size();
+        const bool last = c + 1 == count;
         m_prnx.Lprint(text, columns[c].width, last, columns[c].align);
         if (!last)
             m_prnx.Lprint(gap, 1);

@@ -52,8 +52,10 @@ public:
     PagedReport(Prnx &prnx, ReportLayout layout);
 
     // One row: a cell per column; a Currency is printed by FormatAmount (zero as blank) and,
-    // in a summed column, added to the running totals.
+    // in a summed column, added to the running totals. A row of fewer cells ends after its last.
     void printRow(const QVariantList &cells);
+    // Begins a page with its head unless one is begun.
+    void beginPage();
     // After the last row: the footing of the open page, or the final totals as the layout says.
     void finish();
     const std::vector<Currency> &totals() const { return m_totals; }
