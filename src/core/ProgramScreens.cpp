@@ -1,8 +1,10 @@
 #include "core/ProgramScreens.h"
 
 #include "accounts/AccountCardsScreen.h"
+#include "accounts/AccountStatementScreen.h"
 #include "accounts/AccountTransactionsScreen.h"
 #include "accounts/CashBookScreen.h"
+#include "accounts/DebitCreditScreen.h"
 #include "core/MainWindow.h"
 #include "core/SettingsScreen.h"
 #include "ledger/LedgerScreen.h"
@@ -17,6 +19,8 @@ void AddProgramScreens(MainWindow &window)
 {
     window.addScreen(QStringLiteral("mnucarkart"), [] { return new AccountCardsScreen; });
     window.addScreen(QStringLiteral("mnucarhar"), [] { return new AccountTransactionsScreen; });
+    window.addScreen(QStringLiteral("mnucareks"), [] { return new AccountStatementScreen; });
+    window.addScreen(QStringLiteral("mnugbor"), [] { return new DebitCreditScreen; });
     window.addScreen(QStringLiteral("mnukasa"), [] { return new CashBookScreen; });
     window.addScreen(QStringLiteral("mnumkb"), [] { return new ReceiptScreen; });
     window.addScreen(QStringLiteral("mnuemanet"), [] { return new DepositScreen; });

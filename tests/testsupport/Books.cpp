@@ -4,7 +4,7 @@
 #include "core/DataFiles.h"
 #include "core/Postings.h"
 
-bool AddCard(const QString &code, const QString &title, const QString &taxNumber, const QString &taxOffice)
+bool AddCard(const QString &code, const QString &title, const QString &taxNumber, const QString &taxOffice, int tip)
 {
     Recordset &cards = *dataFiles().carkart;
     RsAddNew(cards);
@@ -12,6 +12,7 @@ bool AddCard(const QString &code, const QString &title, const QString &taxNumber
     FieldWrite(cards, QStringLiteral("unv"), title);
     FieldWrite(cards, QStringLiteral("vn"), taxNumber);
     FieldWrite(cards, QStringLiteral("vd"), taxOffice);
+    FieldWrite(cards, QStringLiteral("tip"), tip);
     return RsUpdate(cards);
 }
 

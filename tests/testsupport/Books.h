@@ -7,7 +7,7 @@
 
 // Records written straight into the open data file, as the screens would have left them.
 bool AddCard(const QString &code, const QString &title, const QString &taxNumber = QString(),
-    const QString &taxOffice = QString());
+    const QString &taxOffice = QString(), int tip = 0);
 bool AddTransaction(const QString &code, int islem, int ba, Currency amount, QDate date = QDate(2026, 11, 16));
 
 // A ledger row's amounts in whole liras.

@@ -1,0 +1,131 @@
+#include "accounts/AccountRangeScreen.h"
+
+#include "accounts/AccountLookup.h"
+#include "controls/XText.h"
+#include "core/AccessLayer.h"
+#include "core/DataFiles.h"
+#include "printing/PrintSettings.h"
+#include "printing/Prnx.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+AccountRangeScreen::AccountRangeScreen(const QString &formName, const QString &caption, QWidget *parent)
+    : Screen(formName, caption, parent)
+{
+    makeField(FirstCode, XText::TextFormat, true);
+    makeField(LastCode, XText::TextFormat, true);
+    makeField(FirstDate, XText::DateFormat, true);
+    makeField(LastDate, XText::DateFormat, false);
+    AttachAccountLookup(m_fields[FirstCode]);
+    AttachAccountLookup(m_fields[LastCode]);
+    fillCodesFromCards();
+
+    auto *ranges = new QHBoxLayout;
+    const char16_t *groups[] = { u"Cari Kod", u"Tarih" };
+    for (int g = 0; g < 2; ++g) {
+        auto *box = new QGroupBox(QString::fromUtf16(groups[g]), this);
+        auto *grid = new QGridLayout(box);
+        for (int end = 0; end < 2; ++end) {
+            XText *field = m_fields[2 * g + end];
+            grid->addWidget(LabelFor(end == 0 ? QStringLiteral("Başlangıç") : QStringLiteral("Bitiş"), field, box), end, 0);
+            grid->addWidget(field, end, 1);
+            field->setAccessibleDescription(box->title());
+        }
+        ranges->addWidget(box);
+    }
+    auto *types = new QHBoxLayout;
+    const char16_t *typeCaptions[] = { u"Müşteri", u"Personel", u"Diğer" };
+    for (int k = 0; k < 3; ++k) {
+        m_types[k] = new QCheckBox(QString::fromUtf16(typeCaptions[k]), this);
+        m_types[k]->setObjectName(QStringLiteral("Check1_%1").arg(k));
+        m_types[k]->setAccessibleName(m_types[k]->text());
+        m_types[k]->setChecked(true);
+        types->addWidget(m_types[k]);
+    }
+    types->addStretch();
+    QPushButton *printButton
+        = addCommand(QStringLiteral("Command1"), QStringLiteral(" Yazdır (F8) "), Qt::Key_F8, [this] { print(); });
+    QPushButton *listButton = addCommand(
+        QStringLiteral("Command2"), QStringLiteral(" Ekrana Listele (F7) "), Qt::Key_F7, [this] { listOnScreen(); });
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(printButton);
+    buttons->addWidget(listButton);
+    auto *page = new QVBoxLayout(this);
+    page->addLayout(ranges);
+    page->addLayout(types);
+    page->addLayout(buttons);
+    setFocusChain({ m_fields[FirstCode], m_fields[LastCode], m_fields[FirstDate], m_fields[LastDate], m_types[0],
+        m_types[1], m_types[2], printButton, listButton });
+}
+
+XText *AccountRangeScreen::makeField(int index, int format, bool autoSelect)
+{
+    auto *field = new XText(this);
+    field->setObjectName(QStringLiteral("xtext1_%1").arg(index));
+    field->xTextBicim(format, format == XText::DateFormat ? 10 : 8,
+        format == XText::DateFormat ? Qt::AlignCenter : Qt::AlignLeft, autoSelect, 0, 0);
+    m_fields[index] = field;
+    return field;
+}
+
+// The first and the last code in the cards' code order: the whole book.
+void AccountRangeScreen::fillCodesFromCards()
+{
+    std::unique_ptr<Recordset> ends;
+    if (!QueryOpen(*dataFiles().db, ends,
+            QStringLiteral("SELECT (SELECT kod FROM carkart ORDER BY kod LIMIT 1) AS ilk, "
+                           "(SELECT kod FROM carkart ORDER BY kod DESC LIMIT 1) AS son")))
+        return;
+    m_fields[FirstCode]->setText(FieldRead(*ends, QStringLiteral("ilk")).toString());
+    m_fields[LastCode]->setText(FieldRead(*ends, QStringLiteral("son")).toString());
+}
+
+QString AccountRangeScreen::rangeCondition(QVariantList &values) const
+{
+    values << m_fields[FirstCode]->Text() << m_fields[LastCode]->Text();
+    QString condition = QStringLiteral("c.kod >= ?%1 AND c.kod <= ?%2").arg(values.size() - 1).arg(values.size());
+    const char *bounds[] = { " AND c.tarih >= ?%1", " AND c.tarih <= ?%1" };
+    for (int end = 0; end < 2; ++end) {
+        const qint64 day = m_fields[FirstDate + end]->Value().toLongLong();
+        if (day == 0)
+            continue;
+        values << day;
+        condition += QString::fromLatin1(bounds[end]).arg(values.size());
+    }
+    return condition;
+}
+
+bool AccountRangeScreen::admits(int tip) const
+{
+    return tip < 0 || tip > 2 || m_types[tip]->isChecked();
+}
+
+QString AccountRangeScreen::codeRangeText() const
+{
+    return m_fields[FirstCode]->Text() + QStringLiteral(" - ") + m_fields[LastCode]->Text();
+}
+
+QString AccountRangeScreen::dateRangeText() const
+{
+    return m_fields[FirstDate]->Text() + QStringLiteral(" - ") + m_fields[LastDate]->Text();
+}
+
+void AccountRangeScreen::printRangeHead(Prnx &prnx) const
+{
+    prnx.Lprint(QStringLiteral(" "), 1, true);
+    prnx.Lprint(printSettings().title, 132, true, 2, true);
+    prnx.Lprint(QStringLiteral(" "), 1, true);
+    prnx.Lprint(QStringLiteral("Cari Aralık : "), 15, false, 1);
+    prnx.Lprint(codeRangeText(), 100, true);
+    prnx.Lprint(QStringLiteral("Tarih Aralık : "), 15, false, 1);
+    prnx.Lprint(dateRangeText(), 102);
+    prnx.Lprint(QStringLiteral("Sayfa :"), 8, false, 1);
+    prnx.Lprint(QString::number(prnx.SayfaSayisi()), 5, true);
+    prnx.Lprint(QStringLiteral(" "), 1, true);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/Screen.h"
+
+#include <QVariantList>
+
+class QCheckBox;
+class XText;
+
+// The parameters of the account reports: a range of account codes (with the account lookup,
+// filled on opening with the first and the last card's code), a range of dates, and the three
+// account types to admit; " Yazdır (F8) " and " Ekrana Listele (F7) ".
+class AccountRangeScreen : public Screen
+{
+    Q_OBJECT
+public:
+    enum Field { FirstCode = 0, LastCode, FirstDate, LastDate };
+
+    AccountRangeScreen(const QString &formName, const QString &caption, QWidget *parent = nullptr);
+
+    virtual void listOnScreen() = 0;
+    virtual void print() = 0;
+
+protected:
+    // The condition on carhar rows (as c) of the two ranges: an empty code is the empty text, a
+    // field that holds no date sets no bound. Appends its values.
+    QString rangeCondition(QVariantList &values) const;
+    // Whether an account of this card type is admitted (types outside 0-2 always are).
+    bool admits(int tip) const;
+    QString codeRangeText() const;
+    QString dateRangeText() const;
+    // The page head of the printed account reports, up to the column heads.
+    void printRangeHead(class Prnx &prnx) const;
+
+private:
+    XText *makeField(int index, int format, bool autoSelect);
+    void fillCodesFromCards();
+
+    XText *m_fields[4] = {};
+    QCheckBox *m_types[3] = {};
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "accounts/AccountRangeScreen.h"
+#include "accounts/ListWindow.h"
+#include "money/Currency.h"
+
+#include <QPointer>
+
+#include <vector>
+
+// "Genel Borç Alacak Listesi" (Form10): for every account in the code range, the debit and
+// credit of its transactions in the date range and the balance on its side, with the totals;
+// listed in its own window (Form11) or printed.
+class DebitCreditScreen : public AccountRangeScreen
+{
+    Q_OBJECT
+public:
+    enum Column { Kod = 0, Unv, Borc, Alacak, BBak, ABak };
+
+    explicit DebitCreditScreen(QWidget *parent = nullptr);
+
+    void listOnScreen() override;
+    void print() override;
+    // The list window of the last listing (null before it and once it was closed).
+    ListWindow *listWindow() const { return m_listWindow; }
+
+private:
+    struct Account
+    {
+        QString kod, unv;
+        Currency debit, credit;
+        bool listed = false;
+        Currency debitBalance() const { return debit > credit ? debit - credit : Currency(); }
+        Currency creditBalance() const { return debit > credit ? Currency() : credit - debit; }
+    };
+    // Every account of the ranges that has a card, code by code; listed: admitted by its type.
+    std::vector<Account> accounts() const;
+    ListWindow *openListWindow();
+
+    QPointer<ListWindow> m_listWindow;
+};

@@ -1,0 +1,28 @@
+#include "accounts/ListWindow.h"
+
+#include "controls/DcList.h"
+
+#include <QTableView>
+#include <QVBoxLayout>
+
+ListWindow::ListWindow(const QString &formName, const QString &caption, QWidget *parent)
+    : Screen(formName, caption, parent)
+    , m_list(new DcList(this))
+{
+    m_list->setObjectName(QStringLiteral("dclist1"));
+    m_list->setAccessibleName(caption);
+    m_list->view()->setAccessibleName(caption);
+    m_list->setZebra(true);
+    m_list->setEditable(false);
+    m_list->setScroll(3);
+    auto *page = new QVBoxLayout(this);
+    page->addWidget(m_list);
+    setFocusChain({ m_list });
+}
+
+void ListWindow::fitToColumns()
+{
+    m_list->fitToColumns(16);
+    if (parentWidget())
+        parentWidget()->adjustSize();
+}

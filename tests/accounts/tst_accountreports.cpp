@@ -1,0 +1,368 @@
+#include "accounts/AccountStatementScreen.h"
+#include "accounts/DebitCreditScreen.h"
+#include "accounts/ListWindow.h"
+#include "controls/DcList.h"
+#include "controls/XText.h"
+#include "money/AmountConventions.h"
+#include "printing/PrintSettings.h"
+#include "testsupport/Books.h"
+#include "testsupport/ExpectedPage.h"
+#include "testsupport/PrivateSpooler.h"
+#include "testsupport/ScreenFixture.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QDate today(2026, 11, 16);
+constexpr int linesPerPage = 66;
+
+Currency lira(qint64 units)
+{
+    return Currency::fromUnits(units);
+}
+
+QString money(qint64 units)
+{
+    return units == 0 ? QString() : QLocale(QLocale::English).toString(double(units), 'f', 2);
+}
+
+// The head both printed account reports begin their pages with, up to the rules.
+void rangeHead(ExpectedRawPage &page, const QString &codes, int pageNumber, const QStringList &heads, const QList<int> &widths)
+{
+    page.field(QStringLiteral(" "), 1).endLine();
+    page.bold(QStringLiteral("GENEL BORÇ ALACAK LİSTESİ"), 132, 2).endLine();
+    page.field(QStringLiteral(" "), 1).endLine();
+    page.field(QStringLiteral("Cari Aralık : "), 15, 1).field(codes, 100).endLine();
+    page.field(QStringLiteral("Tarih Aralık : "), 15, 1).field(QStringLiteral(" - "), 102);
+    page.field(QStringLiteral("Sayfa :"), 8, 1).field(QString::number(pageNumber), 5).endLine();
+    page.field(QStringLiteral(" "), 1).endLine();
+    for (int c = 0; c < heads.size(); ++c) {
+        page.bold(heads[c], widths[c]);
+        if (c + 1 < heads.size())
+            page.gap();
+    }
+    page.endLine();
+    for (int c = 0; c < widths.size(); ++c) {
+        page.rule(widths[c]);
+        if (c + 1 < widths.size())
+            page.gap();
+    }
+    page.endLine();
+}
+
+// A caption line: the caption right-aligned, then the amounts under their columns.
+void captionLine(ExpectedRawPage &page, const QString &caption, int width, const QStringList &amounts, int amountWidth)
+{
+    page.field(caption, width, 1);
+    for (const QString &amount : amounts)
+        page.gap().field(amount, amountWidth, 1);
+    page.endLine();
+}
+
+} // namespace
+
+class TestAccountReports : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void opensWithTheFirstAndLastCard();
+    void listedOnScreen_data();
+    void listedOnScreen();
+    void datesBoundTheSums();
+    void debitCreditPagesOnTheDotMatrixPrinter_data();
+    void debitCreditPagesOnTheDotMatrixPrinter();
+    void debitCreditListAsPdf();
+    void statementOnScreen();
+    void statementPagesOnTheDotMatrixPrinter();
+
+private:
+    template <typename ScreenType> ScreenType *open(const char *item, const char *form);
+    XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
+    void check(int type, bool on) const
+    {
+        m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_%1").arg(type))->setChecked(on);
+    }
+    static QStringList shownRows(const DcList *list);
+    void seedMixedBook();
+    QByteArray printRaw();
+
+    std::unique_ptr<PrivateSpooler> m_spooler;
+    std::unique_ptr<ScreenFixture> m_kit;
+    QPointer<AccountRangeScreen> m_screen;
+};
+
+void TestAccountReports::initTestCase()
+{
+    m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("cari"));
+    QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
+}
+
+void TestAccountReports::init()
+{
+    m_kit = std::make_unique<ScreenFixture>(today);
+    QVERIFY(m_kit->isReady());
+    amountConventions().tlonda = 2;
+}
+
+void TestAccountReports::cleanup()
+{
+    m_kit.reset();
+}
+
+template <typename ScreenType> ScreenType *TestAccountReports::open(const char *item, const char *form)
+{
+    auto *screen = m_kit->open<ScreenType>(item, form);
+    m_screen = screen;
+    return screen;
+}
+
+QStringList TestAccountReports::shownRows(const DcList *list)
+{
+    QStringList rows;
+    for (int row = 0; row < list->ListCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < list->view()->model()->columnCount(); ++column)
+            cells << list->view()->model()->index(row, column).data().toString();
+        rows << cells.join(u'|');
+    }
+    return rows;
+}
+
+// A customer with a negative debit, a staff member on the credit side, another account on the
+// debit side, a customer whose debit equals its credit, and transactions of a code without a card.
+void TestAccountReports::seedMixedBook()
+{
+    QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk"), {}, {}, 0));
+    QVERIFY(AddCard(QStringLiteral("P1"), QStringLiteral("Ali Veli"), {}, {}, 1));
+    QVERIFY(AddCard(QStringLiteral("D1"), QStringLiteral("Deniz Ltd."), {}, {}, 2));
+    QVERIFY(AddCard(QStringLiteral("X1"), QStringLiteral("Ağaoğlu"), {}, {}, 0));
+    QVERIFY(AddTransaction(QStringLiteral("K1"), 2, 0, lira(1000), QDate(2026, 3, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("K1"), 9, 0, lira(-200), QDate(2026, 3, 2)));
+    QVERIFY(AddTransaction(QStringLiteral("K1"), 1, 1, lira(300), QDate(2026, 5, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("P1"), 6, 1, lira(250), QDate(2026, 4, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("D1"), 1, 0, lira(100), QDate(2026, 4, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("X1"), 2, 0, lira(500), QDate(2026, 2, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("X1"), 1, 1, lira(500), QDate(2026, 6, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("Z9"), 1, 0, lira(999), QDate(2026, 6, 1)));
+}
+
+void TestAccountReports::opensWithTheFirstAndLastCard()
+{
+    seedMixedBook();
+    QVERIFY(open<DebitCreditScreen>("mnugbor", "Form10"));
+    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Genel Borç Alacak Listesi"));
+    QCOMPARE(field(0)->Text(), QStringLiteral("D1"));
+    QCOMPARE(field(1)->Text(), QStringLiteral("X1"));
+    for (int type = 0; type < 3; ++type)
+        QVERIFY(m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_%1").arg(type))->isChecked());
+    QVERIFY(open<AccountStatementScreen>("mnucareks", "Form16"));
+    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Cari Hareket Dökümü"));
+    QCOMPARE(field(0)->Text(), QStringLiteral("D1"));
+    QCOMPARE(field(1)->Text(), QStringLiteral("X1"));
+}
+
+void TestAccountReports::listedOnScreen_data()
+{
+    QTest::addColumn<QList<bool>>("types");
+    QTest::addColumn<QStringList>("rows");
+    QTest::newRow("all types") << QList<bool> { true, true, true }
+                               << QStringList { "D1|Deniz Ltd.|100.00||100.00|", "K1|Kaya Hukuk|800.00|300.00|500.00|",
+                                      "P1|Ali Veli||250.00||250.00", "X1|Ağaoğlu|500.00|500.00||",
+                                      "|T O P L A M|1,400.00|1,050.00|600.00|250.00" };
+    QTest::newRow("only customers") << QList<bool> { true, false, false }
+                                    << QStringList { "K1|Kaya Hukuk|800.00|300.00|500.00|", "X1|Ağaoğlu|500.00|500.00||",
+                                           "|T O P L A M|1,300.00|800.00|500.00|" };
+    QTest::newRow("none") << QList<bool> { false, false, false } << QStringList { "|T O P L A M||||" };
+}
+
+void TestAccountReports::listedOnScreen()
+{
+    QFETCH(QList<bool>, types);
+    QFETCH(QStringList, rows);
+    seedMixedBook();
+    auto *screen = open<DebitCreditScreen>("mnugbor", "Form10");
+    QVERIFY(screen);
+    for (int type = 0; type < 3; ++type)
+        check(type, types[type]);
+    QTest::keyClick(field(2)->textBox(), Qt::Key_F7);
+    QVERIFY(screen->listWindow());
+    QCOMPARE(screen->listWindow()->objectName(), QStringLiteral("Form11"));
+    QCOMPARE(screen->listWindow()->windowTitle(), QStringLiteral("Genel Borç Alacak Listesi"));
+    QCOMPARE(shownRows(screen->listWindow()->list()), rows);
+    QCOMPARE(screen->listWindow()->list()->Caption(3 - (types[1] ? 0 : 2), DebitCreditScreen::ABak),
+        types[0] ? QStringLiteral("0") : QString()); // X1: settled, 0 on the credit side
+    screen->listOnScreen(); // a second listing replaces the rows
+    QCOMPARE(shownRows(screen->listWindow()->list()), rows);
+}
+
+void TestAccountReports::datesBoundTheSums()
+{
+    seedMixedBook();
+    auto *screen = open<DebitCreditScreen>("mnugbor", "Form10");
+    TypeIntoField(field(2), QStringLiteral("??.??.????")); // not a date: no bound
+    TypeIntoField(field(3), QStringLiteral("01042026"));
+    TypeIntoField(field(0), QStringLiteral("K1"));
+    screen->listOnScreen();
+    QCOMPARE(shownRows(screen->listWindow()->list()),
+        QStringList({ "K1|Kaya Hukuk|800.00||800.00|", "P1|Ali Veli||250.00||250.00", "X1|Ağaoğlu|500.00||500.00|",
+            "|T O P L A M|1,300.00|250.00|1,300.00|250.00" }));
+}
+
+QByteArray TestAccountReports::printRaw()
+{
+    const QByteArray before = m_spooler->received();
+    printSettings().dotMatrix = true;
+    AnswerPrinterSetup("Command4", this);
+    QTest::keyClick(field(0)->textBox(), Qt::Key_F8);
+    if (!QTest::qWaitFor([&] { return m_spooler->received().size() > before.size(); }, 20000))
+        return {};
+    for (qsizetype size = 0; size != m_spooler->received().size();) { // until the job is through
+        size = m_spooler->received().size();
+        QTest::qWait(300);
+    }
+    return m_spooler->received().mid(before.size());
+}
+
+void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter_data()
+{
+    QTest::addColumn<int>("accounts");
+    // Eight lines of head and 52 rows bring a page to 60 lines, where it ends.
+    QTest::newRow("two pages") << 53;
+    QTest::newRow("the last row ends a page") << 52;
+}
+
+void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter()
+{
+    QFETCH(int, accounts);
+    for (int n = 1; n <= accounts; ++n) {
+        const QString code = QStringLiteral("A%1").arg(n, 3, 10, QLatin1Char('0'));
+        QVERIFY(AddCard(code, QStringLiteral("Müvekkil %1").arg(n)));
+        QVERIFY(AddTransaction(code, 2, 0, lira(10)));
+    }
+    QVERIFY(AddCard(QStringLiteral("A999"), QStringLiteral("Personel"), {}, {}, 1));
+    QVERIFY(AddTransaction(QStringLiteral("A999"), 6, 1, lira(7)));
+    QVERIFY(open<DebitCreditScreen>("mnugbor", "Form10"));
+    check(1, false); // the staff account is left out of rows and totals
+    const QByteArray printed = printRaw();
+
+    const QString codes = QStringLiteral("A001 - A999");
+    const QStringList heads = { "Kod", "Ünvan", "Borç", "Alacak", "Borç Bakiye", "Alacak Bakiye" };
+    const QList<int> widths = { 8, 40, 17, 17, 17, 17 };
+    const auto sums = [](int rows) { return QStringList { money(10 * rows), QString(), money(10 * rows), QString() }; };
+    ExpectedRawPage page;
+    page.raw(QByteArray("\x0f", 1));
+    rangeHead(page, codes, 1, heads, widths);
+    for (int n = 1; n <= accounts; ++n) {
+        page.field(QStringLiteral("A%1").arg(n, 3, 10, QLatin1Char('0')), 8).gap();
+        page.field(QStringLiteral("Müvekkil %1").arg(n), 40).gap();
+        page.field(QStringLiteral("10.00"), 17, 1).gap().field(QString(), 17, 1).gap();
+        page.field(QStringLiteral("10.00"), 17, 1).endLine(); // a debit-side line ends with its balance
+        if (n == 52) {
+            page.rule(8).gap().rule(40).gap().rule(17).gap().rule(17).gap().rule(17).gap().rule(17).endLine();
+            captionLine(page, QStringLiteral("T O P L A M :"), 49, sums(52), 17);
+            page.endPage(linesPerPage);
+            rangeHead(page, codes, 2, heads, widths);
+            captionLine(page, QStringLiteral("Sayfa Devri :"), 49, sums(52), 17);
+        }
+    }
+    page.rule(8).gap().rule(40).gap().rule(17).gap().rule(17).gap().rule(17).gap().rule(17).endLine();
+    captionLine(page, QStringLiteral("T O P L A M :"), 49, sums(accounts), 17);
+    page.endPage(linesPerPage);
+    const QString difference = FirstDifference(printed, page.bytes());
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("GENEL BORÇ ALACAK LİSTESİ")));
+}
+
+void TestAccountReports::debitCreditListAsPdf()
+{
+    seedMixedBook();
+    QVERIFY(open<DebitCreditScreen>("mnugbor", "Form10"));
+    QTemporaryDir dir;
+    printSettings().target = PrintSettings::GraphicTarget::PdfFile;
+    printSettings().pdfFile = dir.filePath(QStringLiteral("borc.pdf"));
+    AnswerPrinterSetup("Command4", this);
+    m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click();
+    const QString pdf = PdfText(printSettings().pdfFile).remove(u' ');
+    for (const char *expected : { "GENELBORÇALACAKLİSTESİ", "CariAralık:D1-X1", "Sayfa:1", "AlacakBakiye", "KayaHukuk",
+             "Ağaoğlu", "TOPLAM:", "1,400.00", "1,050.00" })
+        QVERIFY2(pdf.contains(QString::fromUtf8(expected)), expected);
+    QVERIFY(!pdf.contains(QStringLiteral("999")));
+    QCOMPARE(pdf.count(u'\f'), 1);
+}
+
+void TestAccountReports::statementOnScreen()
+{
+    seedMixedBook();
+    auto *screen = open<AccountStatementScreen>("mnucareks", "Form16");
+    QVERIFY(screen);
+    check(2, false); // "Diğer" left out
+    QTest::keyClick(field(0)->textBox(), Qt::Key_F7);
+    QVERIFY(screen->listWindow());
+    QCOMPARE(screen->listWindow()->windowTitle(), QStringLiteral("Cari Hareket Dökümü"));
+    QCOMPARE(shownRows(screen->listWindow()->list()),
+        QStringList({ "K1||||||", "01.03.2026|2-SMM|||1,000.00||1,000.00 B", "02.03.2026|9-Diğer|||-200.00||800.00 B",
+            "01.05.2026|1-Nakit||||300.00|500.00 B", "|||Hesap Toplamı :|800.00|300.00|500.00 B", "P1||||||",
+            "01.04.2026|6-Maaş||||250.00|250.00 A", "|||Hesap Toplamı :||250.00|250.00 A", "X1||||||",
+            "01.02.2026|2-SMM|||500.00||500.00 B", "01.06.2026|1-Nakit||||500.00|", "|||Hesap Toplamı :|500.00|500.00|" })
+            .replaceInStrings(QStringLiteral("K1||||||"), QStringLiteral("K1|||Kaya Hukuk|||"))
+            .replaceInStrings(QStringLiteral("P1||||||"), QStringLiteral("P1|||Ali Veli|||"))
+            .replaceInStrings(QStringLiteral("X1||||||"), QStringLiteral("X1|||Ağaoğlu|||")));
+}
+
+void TestAccountReports::statementPagesOnTheDotMatrixPrinter()
+{
+    QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk")));
+    for (int n = 0; n < 60; ++n)
+        QVERIFY(AddTransaction(QStringLiteral("K1"), 1, 0, lira(10), QDate(2026, 1, 1).addDays(n)));
+    QVERIFY(open<AccountStatementScreen>("mnucareks", "Form16"));
+    const QByteArray printed = printRaw();
+
+    const QStringList heads = { "Tarih", "İşlem", "Evrak", "Açıklama", "Borç", "Alacak", "Bakiye" };
+    const QList<int> widths = { 10, 12, 8, 40, 17, 17, 17 };
+    const auto rules = [&widths](ExpectedRawPage &page) {
+        for (int c = 0; c < widths.size(); ++c) {
+            page.rule(widths[c]);
+            if (c + 1 < widths.size())
+                page.gap();
+        }
+        page.endLine();
+    };
+    ExpectedRawPage page;
+    page.raw(QByteArray("\x0f", 1));
+    rangeHead(page, QStringLiteral("K1 - K1"), 1, heads, widths);
+    page.field(QStringLiteral("K1"), 10).gap().field(QString(), 12).gap().field(QString(), 8).gap();
+    page.field(QStringLiteral("Kaya Hukuk"), 40).endLine();
+    for (int n = 1; n <= 60; ++n) {
+        page.field(QDate(2026, 1, 1).addDays(n - 1).toString(QStringLiteral("dd.MM.yyyy")), 10).gap();
+        page.field(QStringLiteral("1-Nakit"), 12).gap().field(QString(), 8).gap().field(QString(), 40).gap();
+        page.field(QStringLiteral("10.00"), 17, 1).gap().field(QString(), 17, 1).gap();
+        page.field(money(10 * n) + QStringLiteral(" B"), 17, 1).endLine();
+        if (n == 51) { // the heading and 51 lines fill the first page
+            rules(page);
+            captionLine(page, QStringLiteral("T O P L A M :"), 73, { money(510), QString() }, 17);
+            page.endPage(linesPerPage);
+            rangeHead(page, QStringLiteral("K1 - K1"), 2, heads, widths);
+            captionLine(page, QStringLiteral("Sayfa Devri :"), 73, { money(510), QString() }, 17);
+        }
+    }
+    page.field(QString(), 10).gap().field(QString(), 12).gap().field(QString(), 8).gap();
+    page.field(QStringLiteral("Hesap Toplamı :"), 40).gap().field(money(600), 17, 1).gap().field(QString(), 17, 1).gap();
+    page.field(QStringLiteral("600.00 B"), 17, 1).endLine();
+    rules(page);
+    captionLine(page, QStringLiteral("T O P L A M :"), 73, { money(600), QString() }, 17);
+    page.endPage(linesPerPage);
+    const QString difference = FirstDifference(printed, page.bytes());
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+}
+
+QTEST_MAIN(TestAccountReports)
+#include "tst_accountreports.moc"
