@@ -44,6 +44,7 @@ bench: build
 	$(BUILD)/bench/bench_dclist
 	$(BUILD)/bench/bench_accounts
 	$(BUILD)/bench/bench_ledger
+	$(BUILD)/bench/bench_accountreports
 
 format:
 	find src tests bench -name '*.cpp' -o -name '*.h' | xargs clang-format -i

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "printing/RawChannel.h"
+
 #include <QString>
 #include <QVariant>
 
@@ -34,5 +36,26 @@ void printRow(const QString &what, double program, double raw, double best, cons
 qint64 readAll(sqlite3 *db, const char *sql, const QVariantList &values);
 // The median time of runs of work, in microseconds.
 double medianMicroseconds(int runs, const std::function<void()> &work);
+
+// A printer that takes every byte at once.
+class TakingChannel : public RawChannel
+{
+public:
+    bool open(const QString &, const QString &) override { return true; }
+    bool write(const QByteArray &bytes) override
+    {
+        received += bytes.size();
+        return true;
+    }
+    bool newPage() override { return true; }
+    bool endPage() override
+    {
+        ++pages;
+        return true;
+    }
+    bool close() override { return true; }
+    qint64 received = 0;
+    int pages = 0;
+};
 
 } // namespace SyntheticBook

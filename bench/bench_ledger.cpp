@@ -20,7 +20,6 @@
 #include "printing/DosPrint.h"
 #include "printing/PrintSettings.h"
 #include "printing/Prnx.h"
-#include "printing/RawChannel.h"
 
 #include "SyntheticBook.h"
 
@@ -45,27 +44,6 @@ const char *officialSql = "SELECT tarih, evrak, ack, brut, stopaj, fon, kdv FROM
 const char *withholdingSql
     = "SELECT d.tarih, d.brut, d.stopaj, k.unv, k.vn, k.vd FROM defter d LEFT JOIN carkart k ON k.kod = d.cari "
       "WHERE d.islem = 0 AND d.stopaj > 0 ORDER BY d.cari, d.tarih, d.oto";
-
-// A printer that takes every byte at once.
-class TakingChannel : public RawChannel
-{
-public:
-    bool open(const QString &, const QString &) override { return true; }
-    bool write(const QByteArray &bytes) override
-    {
-        received += bytes.size();
-        return true;
-    }
-    bool newPage() override { return true; }
-    bool endPage() override
-    {
-        ++pages;
-        return true;
-    }
-    bool close() override { return true; }
-    qint64 received = 0;
-    int pages = 0;
-};
 
 } // namespace
 

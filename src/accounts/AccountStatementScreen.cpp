@@ -7,6 +7,7 @@
 #include "core/DataFiles.h"
 #include "core/OpenInMain.h"
 #include "money/AmountConventions.h"
+#include "money/DayNumber.h"
 #include "money/FormatAmount.h"
 #include "printing/PagedReport.h"
 #include "printing/PrintPreset.h"
@@ -70,11 +71,11 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
         const bool onDebit = FieldRead(*rows, QStringLiteral("ba")).toInt() == 0;
         (onDebit ? debit : credit) += tutar;
         emitLine(Line::Transaction,
-            { FieldRead(*rows, QStringLiteral("tarih")).toDate().toString(QStringLiteral("dd.MM.yyyy")),
+            { FormatDate(FieldRead(*rows, QStringLiteral("tarih")).toDate()),
                 TransactionTypeLabel(FieldRead(*rows, QStringLiteral("islem")).toInt()),
-                FieldRead(*rows, QStringLiteral("evrak")).toString(), FieldRead(*rows, QStringLiteral("ack")).toString(),
-                onDebit ? amount(tutar) : QVariant(QString()), onDebit ? QVariant(QString()) : amount(tutar),
-                balanceText(debit - credit) });
+                FieldRead(*rows, QStringLiteral("evrak")).toString(),
+                FieldRead(*rows, QStringLiteral("ack")).toString(), onDebit ? amount(tutar) : QVariant(QString()),
+                onDebit ? QVariant(QString()) : amount(tutar), balanceText(debit - credit) });
     }
     closeAccount();
 }
@@ -115,8 +116,14 @@ void AccountStatementScreen::print()
 {
     const int kind
         = ChoosePrinter({ QStringLiteral("GENEL BORÇ ALACAK LİSTESİ"), true, true, false, true, 66, {} }, this);
+    if (kind != 0)
+        printOn(kind);
+}
+
+void AccountStatementScreen::printOn(int kind)
+{
     Prnx prnx;
-    if (kind == 0 || !prnx.OpenPrinter(kind, QStringLiteral("Cari Hareket Dökümü"), true))
+    if (!prnx.OpenPrinter(kind, QStringLiteral("Cari Hareket Dökümü"), true))
         return;
     ReportLayout layout;
     layout.columns = { { QStringLiteral("Tarih"), 10 }, { QStringLiteral("İşlem"), 12 }, { QStringLiteral("Evrak"), 8 },

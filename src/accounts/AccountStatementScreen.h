@@ -21,6 +21,8 @@ public:
 
     void listOnScreen() override;
     void print() override;
+    // Prints with the print engine kind the printer settings gave (Prnx::Graphic or Prnx::Raw).
+    void printOn(int kind);
     ListWindow *listWindow() const { return m_listWindow; }
 
 private:

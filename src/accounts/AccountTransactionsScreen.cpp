@@ -10,6 +10,7 @@
 #include "core/DataFiles.h"
 #include "core/Message.h"
 #include "money/AmountConventions.h"
+#include "money/DayNumber.h"
 
 #include <QApplication>
 #include <QFrame>
@@ -162,7 +163,7 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
             const int row = grid->CreateNewCaption();
             if (row < 0)
                 break;
-            grid->setCaption(row, Tarih, FieldRead(*rows, QStringLiteral("tarih")).toDate().toString(u"dd.MM.yyyy"));
+            grid->setCaption(row, Tarih, FormatDate(FieldRead(*rows, QStringLiteral("tarih")).toDate()));
             grid->setCaption(row, Evrak, FieldRead(*rows, QStringLiteral("evrak")).toString());
             grid->setCaption(row, Ack, FieldRead(*rows, QStringLiteral("ack")).toString());
             grid->setCaption(row, Islem, TransactionTypeLabel(FieldRead(*rows, QStringLiteral("islem")).toInt()));

@@ -18,17 +18,20 @@ DebitCreditScreen::DebitCreditScreen(QWidget *parent)
 {
 }
 
-// Sums by account over the covering index (kod, tarih, ba, tutar); the card gives the title
-// and the type. A negative amount lowers its side's sum before the sum's size is taken.
+// Sums by account and side in the order of the covering index (kod, ba, tarih, tutar), the two
+// sides of an account side by side, then the card of each account (once per account, not per
+// transaction) gives the title and the type. A negative amount lowers its side's sum before
+// the sum's size is taken.
 std::vector<DebitCreditScreen::Account> DebitCreditScreen::accounts() const
 {
     QVariantList values;
-    const QString sql = QStringLiteral("SELECT c.kod AS kod, k.unv AS unv, k.tip AS tip, "
-                                       "sum(CASE WHEN c.ba = 0 THEN c.tutar END) AS borc, "
-                                       "sum(CASE WHEN c.ba <> 0 THEN c.tutar END) AS alacak "
-                                       "FROM carhar c JOIN carkart k ON k.kod = c.kod WHERE %1 "
-                                       "GROUP BY c.kod ORDER BY c.kod")
-                            .arg(rangeCondition(values));
+    const QString sql
+        = QStringLiteral("SELECT s.kod AS kod, k.unv AS unv, k.tip AS tip, s.borc AS borc, s.alacak AS alacak "
+                         "FROM (SELECT kod, sum(CASE WHEN ba = 0 THEN tutar END) AS borc, "
+                         "sum(CASE WHEN ba <> 0 THEN tutar END) AS alacak FROM (SELECT c.kod AS kod, c.ba AS ba, "
+                         "sum(c.tutar) AS tutar FROM carhar c WHERE %1 GROUP BY c.kod, c.ba) GROUP BY kod) s "
+                         "JOIN carkart k ON k.kod = s.kod ORDER BY s.kod")
+              .arg(rangeCondition(values));
     std::vector<Account> found;
     std::unique_ptr<Recordset> rows;
     if (!QueryOpen(*dataFiles().db, rows, sql, values))
@@ -71,7 +74,7 @@ void DebitCreditScreen::listOnScreen()
     DcList *list = openListWindow()->list();
     list->Clear();
     Currency total[4];
-    const auto addRow = [list](const QString &kod, const QString &unv, const Currency (&amounts)[4]) {
+    const auto addRow = [list](const QString &kod, const QString &unv, const Currency(&amounts)[4]) {
         const int row = list->CreateNewCaption();
         if (row < 0)
             return;
@@ -96,8 +99,12 @@ void DebitCreditScreen::print()
 {
     const int kind
         = ChoosePrinter({ QStringLiteral("GENEL BORÇ ALACAK LİSTESİ"), true, true, false, true, 66, {} }, this);
-    if (kind == 0)
-        return;
+    if (kind != 0)
+        printOn(kind);
+}
+
+void DebitCreditScreen::printOn(int kind)
+{
     const std::vector<Account> found = accounts();
     Prnx prnx;
     if (found.empty() || !prnx.OpenPrinter(kind, printSettings().title, true))
@@ -114,8 +121,8 @@ void DebitCreditScreen::print()
         report.beginPage(); // every account of the query, listed or not, opens a page when none is
         if (!account.listed)
             continue;
-        QVariantList cells = { account.kod, account.unv, QVariant::fromValue(account.debit),
-            QVariant::fromValue(account.credit) };
+        QVariantList cells
+            = { account.kod, account.unv, QVariant::fromValue(account.debit), QVariant::fromValue(account.credit) };
         // A debit-side line ends with its balance; a credit-side line leaves the debit balance blank.
         if (account.debit > account.credit)
             cells << QVariant::fromValue(account.debitBalance());

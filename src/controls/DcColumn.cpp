@@ -1,5 +1,6 @@
 #include "controls/DcColumn.h"
 
+#include "money/DayNumber.h"
 #include "money/FormatAmount.h"
 
 #include <QDate>
@@ -17,7 +18,7 @@ QString DcColumn::display(const QString &value) const
         return FormatNumber(value, onda, grup);
     case u't': {
         const QDate date = QDate::fromString(value, QStringLiteral("dd.MM.yyyy"));
-        return date.isValid() ? date.toString(QStringLiteral("dd.MM.yyyy")) : value;
+        return date.isValid() ? FormatDate(date) : value;
     }
     case u'v':
         return value == u"True" ? QStringLiteral("Var") : value == u"False" ? QStringLiteral("Yok") : value;

@@ -3,6 +3,7 @@
 #include "controls/DcList.h"
 #include "core/AccessLayer.h"
 #include "money/Currency.h"
+#include "money/DayNumber.h"
 
 #include <QAbstractItemModel>
 #include <QDate>
@@ -15,7 +16,7 @@ namespace {
 QString cellText(const QVariant &value)
 {
     if (value.typeId() == QMetaType::QDate)
-        return value.toDate().toString(QStringLiteral("dd.MM.yyyy"));
+        return FormatDate(value.toDate());
     if (value.userType() == qMetaTypeId<Currency>())
         return value.value<Currency>().toString();
     return value.toString();

@@ -60,7 +60,7 @@ const std::vector<TableSpec> &schema()
             // date; kodbakiye holds what the debit/credit list sums, so it reads no row itself;
             // islemtarih the cash book, which reads the cash rows of a day and sums those before.
             { { u"oto", u"oto", false, true, false }, { u"kodtarih", u"kod;tarih", false, false, false },
-                { u"kodbakiye", u"kod;tarih;ba;tutar", false, false, false },
+                { u"kodbakiye", u"kod;ba;tarih;tutar", false, false, false },
                 { u"islemtarih", u"islem;tarih;ba;tutar", false, false, false } } },
         { u"defter", u"Meslek Defteri ", u"Meslek Defteri ",
             { { u"sira", FieldType::Integer, 0, false, 0 }, { u"tarih", FieldType::Date, 0, false, 0 },

@@ -154,8 +154,7 @@ void OfficialLedgerScreen::fill(int kind)
                 if (!listed && carried.brut > Currency())
                     m_listScreen->addRow(0, QString(), QString(), QStringLiteral("Devir...."), carried);
                 listed = true;
-                m_listScreen->addRow(counter,
-                    FieldRead(*rows, QStringLiteral("tarih")).toDate().toString(QStringLiteral("dd.MM.yyyy")),
+                m_listScreen->addRow(counter, FormatDate(FieldRead(*rows, QStringLiteral("tarih")).toDate()),
                     FieldRead(*rows, QStringLiteral("evrak")).toString(),
                     FieldRead(*rows, QStringLiteral("ack")).toString(), amounts);
             }

@@ -7,6 +7,7 @@
 #include "core/Clock.h"
 #include "core/DataFiles.h"
 #include "money/AmountConventions.h"
+#include "money/DayNumber.h"
 #include "money/FormatAmount.h"
 #include "printing/PagedReport.h"
 #include "printing/PrintPreset.h"
@@ -129,8 +130,7 @@ void WithholdingListScreen::load(const QString &sql, const QVariantList &values)
             m_list->setCaption(row, VerNo, FieldRead(*rows, QStringLiteral("verno")).toString());
             m_list->setCaption(row, VerDa, FieldRead(*rows, QStringLiteral("verda")).toString());
             m_list->setCaption(row, Tur, QStringLiteral("SMK"));
-            m_list->setCaption(
-                row, Donem, FieldRead(*rows, QStringLiteral("donem")).toDate().toString(QStringLiteral("dd.MM.yyyy")));
+            m_list->setCaption(row, Donem, FormatDate(FieldRead(*rows, QStringLiteral("donem")).toDate()));
             m_list->setCaption(row, Brut, brut.toString());
             m_list->setCaption(row, Vergi, vergi.toString());
             gross += brut;
@@ -180,6 +180,6 @@ void WithholdingListScreen::exportSheet()
 {
     if (m_list->ListCount() == 0)
         return;
-    m_list->SendExel(QStringLiteral("Stopaj Listesi"), Today().toString(QStringLiteral("dd.MM.yyyy")),
+    m_list->SendExel(QStringLiteral("Stopaj Listesi"), FormatDate(Today()),
         QStringLiteral("Başlangıç :") + m_dates[0]->Text(), QStringLiteral("Bitiş :") + m_dates[1]->Text());
 }
