@@ -42,31 +42,34 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
 {
     QVariantList values;
     const QString sql = QStringLiteral("SELECT c.kod AS kod, c.tarih AS tarih, c.islem AS islem, c.evrak AS evrak, "
-                                       "c.ack AS ack, c.ba AS ba, c.tutar AS tutar, k.unv AS unv, k.tip AS tip "
-                                       "FROM carhar c JOIN carkart k ON k.kod = c.kod WHERE %1 "
+                                       "c.ack AS ack, c.ba AS ba, c.tutar AS tutar FROM carhar c WHERE %1 "
                                        "ORDER BY c.kod, c.tarih, c.islem, c.oto")
                             .arg(rangeCondition(values));
     std::unique_ptr<Recordset> rows;
     if (!QueryOpen(*dataFiles().db, rows, sql, values))
         return;
     QString walked;
+    bool shown = false; // the walked account has a card of an admitted type
     Currency debit, credit;
     const auto closeAccount = [&] {
-        if (!walked.isEmpty())
+        if (shown)
             emitLine(Line::Total,
                 { QString(), QString(), QString(), QStringLiteral("Hesap Toplamı :"), amount(debit), amount(credit),
                     balanceText(debit - credit) });
     };
+    Recordset &cards = *dataFiles().carkart;
     for (; !RsEof(*rows); RsNext(*rows)) {
-        if (!admits(FieldRead(*rows, QStringLiteral("tip")).toInt()))
-            continue;
         const QString kod = FieldRead(*rows, QStringLiteral("kod")).toString();
         if (kod != walked) {
             closeAccount();
             walked = kod;
             debit = credit = Currency();
-            emitLine(Line::Heading, { kod, QString(), QString(), FieldRead(*rows, QStringLiteral("unv")).toString() });
+            shown = CariExists(kod) && admits(FieldRead(cards, QStringLiteral("tip")).toInt());
+            if (shown)
+                emitLine(Line::Heading, { kod, QString(), QString(), FieldRead(cards, QStringLiteral("unv")).toString() });
         }
+        if (!shown)
+            continue;
         const Currency tutar = FieldRead(*rows, QStringLiteral("tutar")).value<Currency>();
         const bool onDebit = FieldRead(*rows, QStringLiteral("ba")).toInt() == 0;
         (onDebit ? debit : credit) += tutar;

@@ -36,7 +36,13 @@ int typeCode(const QString &text)
 
 QString TransactionTypeLabel(int islem)
 {
-    return islem >= 0 && islem <= 9 ? QString::fromUtf16(typeLabels[islem]) : QString();
+    static const QStringList labels = [] {
+        QStringList texts;
+        for (const char16_t *label : typeLabels)
+            texts << QString::fromUtf16(label);
+        return texts;
+    }();
+    return labels.value(islem);
 }
 
 AccountTransactionsScreen::AccountTransactionsScreen(QWidget *parent)
