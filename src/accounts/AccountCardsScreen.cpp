@@ -57,7 +57,6 @@ bool isText(int field)
     return field != amountField && field != typeField;
 }
 
-
 Recordset &cards()
 {
     return *dataFiles().carkart;

@@ -33,7 +33,8 @@ AccountRangeScreen::AccountRangeScreen(const QString &formName, const QString &c
         auto *grid = new QGridLayout(box);
         for (int end = 0; end < 2; ++end) {
             XText *field = m_fields[2 * g + end];
-            grid->addWidget(LabelFor(end == 0 ? QStringLiteral("Başlangıç") : QStringLiteral("Bitiş"), field, box), end, 0);
+            grid->addWidget(
+                LabelFor(end == 0 ? QStringLiteral("Başlangıç") : QStringLiteral("Bitiş"), field, box), end, 0);
             grid->addWidget(field, end, 1);
             field->setAccessibleDescription(box->title());
         }

@@ -66,7 +66,8 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
             debit = credit = Currency();
             shown = CariExists(kod) && admits(FieldRead(cards, QStringLiteral("tip")).toInt());
             if (shown)
-                emitLine(Line::Heading, { kod, QString(), QString(), FieldRead(cards, QStringLiteral("unv")).toString() });
+                emitLine(
+                    Line::Heading, { kod, QString(), QString(), FieldRead(cards, QStringLiteral("unv")).toString() });
         }
         if (!shown)
             continue;

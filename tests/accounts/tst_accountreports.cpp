@@ -33,7 +33,8 @@ QString money(qint64 units)
 }
 
 // The head both printed account reports begin their pages with, up to the rules.
-void rangeHead(ExpectedRawPage &page, const QString &codes, int pageNumber, const QStringList &heads, const QList<int> &widths)
+void rangeHead(
+    ExpectedRawPage &page, const QString &codes, int pageNumber, const QStringList &heads, const QList<int> &widths)
 {
     page.field(QStringLiteral(" "), 1).endLine();
     page.bold(QStringLiteral("GENEL BORÇ ALACAK LİSTESİ"), 132, 2).endLine();
@@ -80,6 +81,7 @@ private slots:
     void datesBoundTheSums();
     void debitCreditPagesOnTheDotMatrixPrinter_data();
     void debitCreditPagesOnTheDotMatrixPrinter();
+    void nothingAdmittedPrintsEmptyTotals();
     void debitCreditListAsPdf();
     void statementOnScreen();
     void statementPagesOnTheDotMatrixPrinter();
@@ -138,21 +140,23 @@ QStringList TestAccountReports::shownRows(const DcList *list)
 }
 
 // A customer with a negative debit, a staff member on the credit side, another account on the
-// debit side, a customer whose debit equals its credit, and transactions of a code without a card.
+// debit side whose credits add up below zero, a customer whose debit equals its credit, and
+// transactions of a code without a card. The cards are not stored in code order.
 void TestAccountReports::seedMixedBook()
 {
     QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk"), {}, {}, 0));
+    QVERIFY(AddCard(QStringLiteral("X1"), QStringLiteral("Ağaoğlu"), {}, {}, 0));
     QVERIFY(AddCard(QStringLiteral("P1"), QStringLiteral("Ali Veli"), {}, {}, 1));
     QVERIFY(AddCard(QStringLiteral("D1"), QStringLiteral("Deniz Ltd."), {}, {}, 2));
-    QVERIFY(AddCard(QStringLiteral("X1"), QStringLiteral("Ağaoğlu"), {}, {}, 0));
     QVERIFY(AddTransaction(QStringLiteral("K1"), 2, 0, lira(1000), QDate(2026, 3, 1)));
     QVERIFY(AddTransaction(QStringLiteral("K1"), 9, 0, lira(-200), QDate(2026, 3, 2)));
     QVERIFY(AddTransaction(QStringLiteral("K1"), 1, 1, lira(300), QDate(2026, 5, 1)));
     QVERIFY(AddTransaction(QStringLiteral("P1"), 6, 1, lira(250), QDate(2026, 4, 1)));
     QVERIFY(AddTransaction(QStringLiteral("D1"), 1, 0, lira(100), QDate(2026, 4, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("D1"), 9, 1, lira(-40), QDate(2026, 4, 2)));
     QVERIFY(AddTransaction(QStringLiteral("X1"), 2, 0, lira(500), QDate(2026, 2, 1)));
     QVERIFY(AddTransaction(QStringLiteral("X1"), 1, 1, lira(500), QDate(2026, 6, 1)));
-    QVERIFY(AddTransaction(QStringLiteral("Z9"), 1, 0, lira(999), QDate(2026, 6, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("M5"), 1, 0, lira(999), QDate(2026, 6, 1)));
 }
 
 void TestAccountReports::opensWithTheFirstAndLastCard()
@@ -175,12 +179,12 @@ void TestAccountReports::listedOnScreen_data()
     QTest::addColumn<QList<bool>>("types");
     QTest::addColumn<QStringList>("rows");
     QTest::newRow("all types") << QList<bool> { true, true, true }
-                               << QStringList { "D1|Deniz Ltd.|100.00||100.00|", "K1|Kaya Hukuk|800.00|300.00|500.00|",
-                                      "P1|Ali Veli||250.00||250.00", "X1|Ağaoğlu|500.00|500.00||",
-                                      "|T O P L A M|1,400.00|1,050.00|600.00|250.00" };
+                               << QStringList { "D1|Deniz Ltd.|100.00|40.00|60.00|",
+                                      "K1|Kaya Hukuk|800.00|300.00|500.00|", "P1|Ali Veli||250.00||250.00",
+                                      "X1|Ağaoğlu|500.00|500.00||", "|T O P L A M|1,400.00|1,090.00|560.00|250.00" };
     QTest::newRow("only customers") << QList<bool> { true, false, false }
-                                    << QStringList { "K1|Kaya Hukuk|800.00|300.00|500.00|", "X1|Ağaoğlu|500.00|500.00||",
-                                           "|T O P L A M|1,300.00|800.00|500.00|" };
+                                    << QStringList { "K1|Kaya Hukuk|800.00|300.00|500.00|",
+                                           "X1|Ağaoğlu|500.00|500.00||", "|T O P L A M|1,300.00|800.00|500.00|" };
     QTest::newRow("none") << QList<bool> { false, false, false } << QStringList { "|T O P L A M||||" };
 }
 
@@ -243,27 +247,35 @@ void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter_data()
 void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter()
 {
     QFETCH(int, accounts);
+    QVERIFY(AddCard(QStringLiteral("A000"), QStringLiteral("Personel"), {}, {}, 1));
+    QVERIFY(AddTransaction(QStringLiteral("A000"), 6, 1, lira(7)));
     for (int n = 1; n <= accounts; ++n) {
         const QString code = QStringLiteral("A%1").arg(n, 3, 10, QLatin1Char('0'));
         QVERIFY(AddCard(code, QStringLiteral("Müvekkil %1").arg(n)));
         QVERIFY(AddTransaction(code, 2, 0, lira(10)));
     }
-    QVERIFY(AddCard(QStringLiteral("A999"), QStringLiteral("Personel"), {}, {}, 1));
-    QVERIFY(AddTransaction(QStringLiteral("A999"), 6, 1, lira(7)));
+    QVERIFY(AddTransaction(QStringLiteral("A001"), 1, 1, lira(10))); // settled: a credit-side line of blanks
     QVERIFY(open<DebitCreditScreen>("mnugbor", "Form10"));
     check(1, false); // the staff account is left out of rows and totals
     const QByteArray printed = printRaw();
 
-    const QString codes = QStringLiteral("A001 - A999");
+    const QString codes = QStringLiteral("A000 - A%1").arg(accounts, 3, 10, QLatin1Char('0'));
     const QStringList heads = { "Kod", "Ünvan", "Borç", "Alacak", "Borç Bakiye", "Alacak Bakiye" };
     const QList<int> widths = { 8, 40, 17, 17, 17, 17 };
-    const auto sums = [](int rows) { return QStringList { money(10 * rows), QString(), money(10 * rows), QString() }; };
+    const auto sums = [](int rows) {
+        return QStringList { money(10 * rows), money(10), money(10 * (rows - 1)), QString() };
+    };
     ExpectedRawPage page;
     page.raw(QByteArray("\x0f", 1));
     rangeHead(page, codes, 1, heads, widths);
     for (int n = 1; n <= accounts; ++n) {
         page.field(QStringLiteral("A%1").arg(n, 3, 10, QLatin1Char('0')), 8).gap();
         page.field(QStringLiteral("Müvekkil %1").arg(n), 40).gap();
+        if (n == 1) {
+            page.field(QStringLiteral("10.00"), 17, 1).gap().field(QStringLiteral("10.00"), 17, 1).gap();
+            page.field(QString(), 17, 1).gap().field(QString(), 17, 1).endLine();
+            continue;
+        }
         page.field(QStringLiteral("10.00"), 17, 1).gap().field(QString(), 17, 1).gap();
         page.field(QStringLiteral("10.00"), 17, 1).endLine(); // a debit-side line ends with its balance
         if (n == 52) {
@@ -282,6 +294,24 @@ void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter()
     QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("GENEL BORÇ ALACAK LİSTESİ")));
 }
 
+void TestAccountReports::nothingAdmittedPrintsEmptyTotals()
+{
+    seedMixedBook();
+    QVERIFY(open<DebitCreditScreen>("mnugbor", "Form10"));
+    for (int type = 0; type < 3; ++type)
+        check(type, false);
+    const QByteArray printed = printRaw();
+    ExpectedRawPage page;
+    page.raw(QByteArray("\x0f", 1));
+    rangeHead(page, QStringLiteral("D1 - X1"), 1, { "Kod", "Ünvan", "Borç", "Alacak", "Borç Bakiye", "Alacak Bakiye" },
+        { 8, 40, 17, 17, 17, 17 });
+    page.rule(8).gap().rule(40).gap().rule(17).gap().rule(17).gap().rule(17).gap().rule(17).endLine();
+    captionLine(page, QStringLiteral("T O P L A M :"), 49, { QString(), QString(), QString(), QString() }, 17);
+    page.endPage(linesPerPage);
+    const QString difference = FirstDifference(printed, page.bytes());
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+}
+
 void TestAccountReports::debitCreditListAsPdf()
 {
     seedMixedBook();
@@ -293,7 +323,7 @@ void TestAccountReports::debitCreditListAsPdf()
     m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click();
     const QString pdf = PdfText(printSettings().pdfFile).remove(u' ');
     for (const char *expected : { "GENELBORÇALACAKLİSTESİ", "CariAralık:D1-X1", "Sayfa:1", "AlacakBakiye", "KayaHukuk",
-             "Ağaoğlu", "TOPLAM:", "1,400.00", "1,050.00" })
+             "Ağaoğlu", "TOPLAM:", "1,400.00", "1,090.00" })
         QVERIFY2(pdf.contains(QString::fromUtf8(expected)), expected);
     QVERIFY(!pdf.contains(QStringLiteral("999")));
     QCOMPARE(pdf.count(u'\f'), 1);
@@ -310,9 +340,10 @@ void TestAccountReports::statementOnScreen()
     QCOMPARE(screen->listWindow()->windowTitle(), QStringLiteral("Cari Hareket Dökümü"));
     QCOMPARE(shownRows(screen->listWindow()->list()),
         QStringList({ "K1||||||", "01.03.2026|2-SMM|||1,000.00||1,000.00 B", "02.03.2026|9-Diğer|||-200.00||800.00 B",
-            "01.05.2026|1-Nakit||||300.00|500.00 B", "|||Hesap Toplamı :|800.00|300.00|500.00 B", "P1||||||",
-            "01.04.2026|6-Maaş||||250.00|250.00 A", "|||Hesap Toplamı :||250.00|250.00 A", "X1||||||",
-            "01.02.2026|2-SMM|||500.00||500.00 B", "01.06.2026|1-Nakit||||500.00|", "|||Hesap Toplamı :|500.00|500.00|" })
+                        "01.05.2026|1-Nakit||||300.00|500.00 B", "|||Hesap Toplamı :|800.00|300.00|500.00 B",
+                        "P1||||||", "01.04.2026|6-Maaş||||250.00|250.00 A", "|||Hesap Toplamı :||250.00|250.00 A",
+                        "X1||||||", "01.02.2026|2-SMM|||500.00||500.00 B", "01.06.2026|1-Nakit||||500.00|",
+                        "|||Hesap Toplamı :|500.00|500.00|" })
             .replaceInStrings(QStringLiteral("K1||||||"), QStringLiteral("K1|||Kaya Hukuk|||"))
             .replaceInStrings(QStringLiteral("P1||||||"), QStringLiteral("P1|||Ali Veli|||"))
             .replaceInStrings(QStringLiteral("X1||||||"), QStringLiteral("X1|||Ağaoğlu|||")));
@@ -355,7 +386,12 @@ void TestAccountReports::statementPagesOnTheDotMatrixPrinter()
         }
     }
     page.field(QString(), 10).gap().field(QString(), 12).gap().field(QString(), 8).gap();
-    page.field(QStringLiteral("Hesap Toplamı :"), 40).gap().field(money(600), 17, 1).gap().field(QString(), 17, 1).gap();
+    page.field(QStringLiteral("Hesap Toplamı :"), 40)
+        .gap()
+        .field(money(600), 17, 1)
+        .gap()
+        .field(QString(), 17, 1)
+        .gap();
     page.field(QStringLiteral("600.00 B"), 17, 1).endLine();
     rules(page);
     captionLine(page, QStringLiteral("T O P L A M :"), 73, { money(600), QString() }, 17);
