@@ -40,6 +40,7 @@ test-asan: build-asan
 test: test-plain test-asan
 
 bench: build
+	@./scripts/install-deps.sh ledger hledger
 	$(BUILD)/bench/bench_datastore
 	$(BUILD)/bench/bench_dclist
 	$(BUILD)/bench/bench_accounts

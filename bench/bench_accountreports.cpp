@@ -3,7 +3,8 @@
 // and "Cari Hareket Dökümü" of the account of 30,000 transactions, on the screen and printed.
 // Beside them, in the same run: the raw engine doing the same reads with the program's indexes,
 // the engine's best plan (an index made for the sums alone), and the same sums read through the
-// account-and-date index alone, as files had it before the covering index.
+// account-and-date index alone, as files had it before the covering index. Last, the same book
+// written as a plain-text journal and balanced by ledger-cli and hledger, where installed.
 
 #include "accounts/AccountStatementScreen.h"
 #include "accounts/DebitCreditScreen.h"
@@ -21,6 +22,8 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <sqlite3.h>
@@ -80,6 +83,57 @@ std::pair<double, int> timePrint(const std::function<void()> &print)
     return { double(clock.nsecsElapsed()) / 1e6, printer->pages };
 }
 
+// The book's transactions as a journal both plain-text ledgers read: debits to the account,
+// credits from it, the other side to a cash account.
+bool writeJournal(sqlite3 *db, const QString &path)
+{
+    QFile journal(path);
+    if (!journal.open(QIODevice::WriteOnly))
+        return false;
+    sqlite3_stmt *rows = nullptr;
+    sqlite3_prepare_v2(db, "SELECT kod, tarih, ba, tutar FROM carhar ORDER BY tarih", -1, &rows, nullptr);
+    const QDate origin(1899, 12, 30);
+    QByteArray text;
+    while (sqlite3_step(rows) == SQLITE_ROW) {
+        const QByteArray kod(reinterpret_cast<const char *>(sqlite3_column_text(rows, 0)));
+        const QDate date = origin.addDays(sqlite3_column_int64(rows, 1));
+        const qint64 amount = sqlite3_column_int64(rows, 3) * (sqlite3_column_int(rows, 2) == 0 ? 1 : -1);
+        text += date.toString(QStringLiteral("yyyy-MM-dd")).toLatin1() + " hareket\n    cari:" + kod + "  "
+            + QByteArray::number(double(amount) / 10000, 'f', 2) + "\n    kasa\n\n";
+        if (text.size() > (1 << 20)) {
+            journal.write(text);
+            text.clear();
+        }
+    }
+    sqlite3_finalize(rows);
+    journal.write(text);
+    return true;
+}
+
+// Runs a balance report of a plain-text ledger; the seconds it took, or a negative number when
+// the program is not there or fails.
+double timeBalance(const QString &program, const QStringList &arguments)
+{
+    if (QStandardPaths::findExecutable(program).isEmpty())
+        return -1;
+    QProcess run;
+    run.setStandardOutputFile(QProcess::nullDevice());
+    QElapsedTimer clock;
+    clock.start();
+    run.start(program, arguments);
+    if (!run.waitForFinished(600000) || run.exitCode() != 0)
+        return -1;
+    return double(clock.nsecsElapsed()) / 1e9;
+}
+
+void printBalanceRow(const char *what, double seconds, double program)
+{
+    if (seconds < 0)
+        std::printf("%-50s %12s\n", what, "not installed");
+    else
+        std::printf("%-50s %9.2f s  (%.0f x the program's list)\n", what, seconds, seconds * 1e6 / program);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -127,7 +181,15 @@ int main(int argc, char *argv[])
         readAll(raw, statementSql, { accountCode(0), accountCode(0) });
     });
     sqlite3_exec(raw, "DROP INDEX best_sums; DROP INDEX best_statement", nullptr, nullptr, nullptr);
+    const QString journal = dir.filePath(QStringLiteral("defter.journal"));
+    const bool written = writeJournal(raw, journal);
     sqlite3_close(raw);
+    const double ledgerCli = written ? timeBalance(QStringLiteral("ledger"),
+                                 { QStringLiteral("-f"), journal, QStringLiteral("balance"), QStringLiteral("--flat") })
+                                     : -1;
+    const double hledger = written
+        ? timeBalance(QStringLiteral("hledger"), { QStringLiteral("-f"), journal, QStringLiteral("balance") })
+        : -1;
 
     printSettings().title = QStringLiteral("GENEL BORÇ ALACAK LİSTESİ");
     printSettings().lines = 66;
@@ -145,6 +207,8 @@ int main(int argc, char *argv[])
         rawStatement, bestStatement, "<= 150 ms");
     std::printf("Genel Borç Alacak printed: %d raw pages in %.1f ms (target <= 2 s)\n", allPages, printAllMs);
     std::printf("Cari Hareket Dökümü printed: %d raw pages in %.1f ms\n", statementPages, printStatementMs);
+    printBalanceRow("ledger-cli balance --flat, the same book", ledgerCli, listAll);
+    printBalanceRow("hledger balance, the same book", hledger, listAll);
     std::printf("Peak memory while listing: %.1f MiB in all, %.1f MiB above the open book (target <= 64 MiB)\n", peak,
         peak - before);
     return 0;

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the program and its tests need, only those that are missing.
+# Further packages may be named as arguments (the benchmarks' comparison tools).
 set -euo pipefail
 
 packages=(
@@ -8,6 +9,7 @@ packages=(
   libsqlite3-dev libcups2-dev libxlsxwriter-dev
   xvfb xauth xdg-utils fonts-dejavu-core
   cups cups-client cups-bsd poppler-utils python3
+  "$@"
 )
 
 missing=()
