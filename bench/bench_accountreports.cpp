@@ -8,7 +8,7 @@
 
 #include "accounts/AccountStatementScreen.h"
 #include "accounts/DebitCreditScreen.h"
-#include "accounts/ListWindow.h"
+#include "controls/ListWindow.h"
 #include "controls/DcList.h"
 #include "controls/XText.h"
 #include "core/Parameters.h"

@@ -8,10 +8,7 @@
 #include "printing/Prnx.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -27,19 +24,8 @@ AccountRangeScreen::AccountRangeScreen(const QString &formName, const QString &c
     fillCodesFromCards();
 
     auto *ranges = new QHBoxLayout;
-    const char16_t *groups[] = { u"Cari Kod", u"Tarih" };
-    for (int g = 0; g < 2; ++g) {
-        auto *box = new QGroupBox(QString::fromUtf16(groups[g]), this);
-        auto *grid = new QGridLayout(box);
-        for (int end = 0; end < 2; ++end) {
-            XText *field = m_fields[2 * g + end];
-            grid->addWidget(
-                LabelFor(end == 0 ? QStringLiteral("Başlangıç") : QStringLiteral("Bitiş"), field, box), end, 0);
-            grid->addWidget(field, end, 1);
-            field->setAccessibleDescription(box->title());
-        }
-        ranges->addWidget(box);
-    }
+    ranges->addWidget(RangeBox(QStringLiteral("Cari Kod"), m_fields[FirstCode], m_fields[LastCode], this));
+    ranges->addWidget(RangeBox(QStringLiteral("Tarih"), m_fields[FirstDate], m_fields[LastDate], this));
     auto *types = new QHBoxLayout;
     const char16_t *typeCaptions[] = { u"Müşteri", u"Personel", u"Diğer" };
     for (int k = 0; k < 3; ++k) {

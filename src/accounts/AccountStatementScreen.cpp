@@ -1,7 +1,7 @@
 #include "accounts/AccountStatementScreen.h"
 
 #include "accounts/AccountTransactionsScreen.h"
-#include "accounts/ListWindow.h"
+#include "controls/ListWindow.h"
 #include "controls/DcList.h"
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "accounts/AccountRangeScreen.h"
-#include "accounts/ListWindow.h"
+#include "controls/ListWindow.h"
 
 #include <QPointer>
 

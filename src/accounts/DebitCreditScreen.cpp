@@ -1,6 +1,6 @@
 #include "accounts/DebitCreditScreen.h"
 
-#include "accounts/ListWindow.h"
+#include "controls/ListWindow.h"
 #include "controls/DcList.h"
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"

@@ -13,6 +13,11 @@ class QPushButton;
 // name, and that of the widget inside that takes the field's focus.
 QLabel *LabelFor(const QString &caption, QWidget *field, QWidget *parent);
 
+// A framed range of two fields, "Başlangıç" and "Bitiş", under the range's title (which the
+// fields carry as their accessible description).
+class QGroupBox;
+QGroupBox *RangeBox(const QString &title, QWidget *first, QWidget *last, QWidget *parent);
+
 // What every screen shares: its form name and caption, the main window's icon, the order in
 // which Enter and Up walk its fields, and Esc in the first field to close it.
 class Screen : public QWidget

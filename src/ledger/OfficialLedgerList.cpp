@@ -9,7 +9,6 @@
 #include "printing/Prnx.h"
 
 #include <QTableView>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -27,16 +26,8 @@ LedgerAmounts &LedgerAmounts::operator+=(const LedgerAmounts &other)
 }
 
 OfficialLedgerList::OfficialLedgerList(QWidget *parent)
-    : Screen(QStringLiteral("Form13"), QStringLiteral("Serbest Meslek Defteri"), parent)
-    , m_list(new DcList(this))
+    : ListWindow(QStringLiteral("Form13"), QStringLiteral("Serbest Meslek Defteri"), parent)
 {
-    m_list->setObjectName(QStringLiteral("dclist1"));
-    m_list->setZebra(true);
-    m_list->setEditable(false);
-    m_list->setScroll(3);
-    auto *page = new QVBoxLayout(this);
-    page->addWidget(m_list);
-    setFocusChain({ m_list });
 }
 
 void OfficialLedgerList::showBook(int side, bool withholding, bool fund)
@@ -44,14 +35,12 @@ void OfficialLedgerList::showBook(int side, bool withholding, bool fund)
     m_side = side;
     setWindowTitle(side == Gelir ? QStringLiteral("Serbest Meslek Defteri (Gelir)")
                                  : QStringLiteral("Serbest Meslek Defteri (Gider)"));
-    m_list->setAccessibleName(windowTitle());
-    m_list->view()->setAccessibleName(windowTitle());
-    m_list->Clear();
-    m_list->Reset();
+    list()->setAccessibleName(windowTitle());
+    list()->view()->setAccessibleName(windowTitle());
+    list()->Clear();
+    list()->Reset();
     defineColumns(withholding, fund);
-    m_list->fitToColumns(16);
-    if (parentWidget())
-        parentWidget()->adjustSize();
+    fitToColumns();
 }
 
 void OfficialLedgerList::defineColumns(bool withholding, bool fund)
@@ -59,41 +48,41 @@ void OfficialLedgerList::defineColumns(bool withholding, bool fund)
     const int onda = amountConventions().tlonda;
     const int textWidth = m_side == Gelir ? 150 : 250;
     const int amountWidth = m_side == Gelir ? 110 : 120;
-    m_list->Add(QStringLiteral("n"), QStringLiteral("sira"), QStringLiteral("Sıra"), 50, 99999999, 0, 0, 0);
-    m_list->Add(QStringLiteral("t"), QStringLiteral("tarih"), QStringLiteral("Tarih"), 90, 10, 0, 0, 0);
-    m_list->Add(QStringLiteral("a"), QStringLiteral("evrak"), QStringLiteral("Evrak"), 80, 8, 0, 0, 0);
-    m_list->Add(QStringLiteral("a"), QStringLiteral("ack"), QStringLiteral("Açıklama"), textWidth, 40, 0, 0, 0);
-    m_list->Add(
+    list()->Add(QStringLiteral("n"), QStringLiteral("sira"), QStringLiteral("Sıra"), 50, 99999999, 0, 0, 0);
+    list()->Add(QStringLiteral("t"), QStringLiteral("tarih"), QStringLiteral("Tarih"), 90, 10, 0, 0, 0);
+    list()->Add(QStringLiteral("a"), QStringLiteral("evrak"), QStringLiteral("Evrak"), 80, 8, 0, 0, 0);
+    list()->Add(QStringLiteral("a"), QStringLiteral("ack"), QStringLiteral("Açıklama"), textWidth, 40, 0, 0, 0);
+    list()->Add(
         QStringLiteral("n"), QStringLiteral("matrah"), QStringLiteral("Matrah"), amountWidth, amountLimit, 0, onda, 3);
     if (m_side == Gelir && withholding)
-        m_list->Add(
+        list()->Add(
             QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, amountLimit, 0, onda, 3);
     if (m_side == Gelir && fund)
-        m_list->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, amountLimit, 0, onda, 3);
-    m_list->Add(
+        list()->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, amountLimit, 0, onda, 3);
+    list()->Add(
         QStringLiteral("n"), QStringLiteral("kdv"), QStringLiteral("Kdv"), amountWidth, amountLimit, 0, onda, 3);
 }
 
 void OfficialLedgerList::addRow(
     int sira, const QString &date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts)
 {
-    const int row = m_list->CreateNewCaption();
+    const int row = list()->CreateNewCaption();
     if (row < 0)
         return;
-    m_list->setCaption(row, Sira, QString::number(sira));
-    m_list->setCaption(row, Tarih, date);
-    m_list->setCaption(row, Evrak, evrak);
-    m_list->setCaption(row, Ack, ack);
-    m_list->setCaption(row, Matrah, amounts.brut.toString());
+    list()->setCaption(row, Sira, QString::number(sira));
+    list()->setCaption(row, Tarih, date);
+    list()->setCaption(row, Evrak, evrak);
+    list()->setCaption(row, Ack, ack);
+    list()->setCaption(row, Matrah, amounts.brut.toString());
     // Columns the list does not have take no value.
-    m_list->setCaptionByName(row, QStringLiteral("stopaj"), amounts.stopaj.toString());
-    m_list->setCaptionByName(row, QStringLiteral("fon"), amounts.fon.toString());
-    m_list->setCaptionByName(row, QStringLiteral("kdv"), amounts.kdv.toString());
+    list()->setCaptionByName(row, QStringLiteral("stopaj"), amounts.stopaj.toString());
+    list()->setCaptionByName(row, QStringLiteral("fon"), amounts.fon.toString());
+    list()->setCaptionByName(row, QStringLiteral("kdv"), amounts.kdv.toString());
 }
 
 Currency OfficialLedgerList::amountAt(int row, const QString &name) const
 {
-    return Currency::fromString(m_list->CaptionByName(row, name));
+    return Currency::fromString(list()->CaptionByName(row, name));
 }
 
 void OfficialLedgerList::yazdir(int kind, int side)
@@ -125,11 +114,11 @@ void OfficialLedgerList::yazdir(int kind, int side)
     layout.carryCaption = QStringLiteral("Nakli Yekun :");
     layout.boldTotals = true;
     PagedReport report(prnx, std::move(layout));
-    for (int row = 0; row < m_list->ListCount(); ++row) {
+    for (int row = 0; row < list()->ListCount(); ++row) {
         const Currency matrah = amountAt(row, QStringLiteral("matrah"));
         const Currency kdv = amountAt(row, QStringLiteral("kdv"));
-        QVariantList cells = { m_list->curtext(m_list->Caption(row, Sira), Sira), m_list->Caption(row, Tarih),
-            m_list->Caption(row, Evrak), m_list->Caption(row, Ack), QVariant::fromValue(matrah) };
+        QVariantList cells = { list()->curtext(list()->Caption(row, Sira), Sira), list()->Caption(row, Tarih),
+            list()->Caption(row, Evrak), list()->Caption(row, Ack), QVariant::fromValue(matrah) };
         if (income) {
             const Currency stopaj = amountAt(row, QStringLiteral("stopaj"));
             cells << QVariant::fromValue(stopaj) << QVariant::fromValue(kdv)

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "core/Screen.h"
+#include "controls/ListWindow.h"
 #include "money/Currency.h"
 
-class DcList;
 
 // The amounts of a ledger row, or their sums.
 struct LedgerAmounts
@@ -14,7 +13,7 @@ struct LedgerAmounts
 
 // The official book of one side as a read-only list (Form13), "Serbest Meslek Defteri (Gelir)"
 // or "(Gider)", and its printed pages: numbered rows, page totals carried from page to page.
-class OfficialLedgerList : public Screen
+class OfficialLedgerList : public ListWindow
 {
     Q_OBJECT
 public:
@@ -30,7 +29,6 @@ public:
     void addRow(int sira, const QString &date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts);
     // Prints the listed rows with the print engine kind (Prnx::Graphic or Prnx::Raw).
     void yazdir(int kind, int side);
-    DcList *list() const { return m_list; }
 
 private:
     void defineColumns(bool withholding, bool fund);
@@ -38,5 +36,4 @@ private:
     Currency amountAt(int row, const QString &name) const;
 
     int m_side = Gelir;
-    DcList *m_list;
 };

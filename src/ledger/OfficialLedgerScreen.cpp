@@ -13,10 +13,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -58,20 +55,9 @@ OfficialLedgerScreen::OfficialLedgerScreen(QWidget *parent)
     auto *book = new QHBoxLayout;
     book->addWidget(labelFor(QStringLiteral("&Defter"), m_side));
     book->addWidget(m_side, 1);
-    auto *ranges = new QGridLayout;
-    const char16_t *groups[] = { u"Sıra No", u"Tarih" };
-    for (int g = 0; g < 2; ++g) {
-        auto *box = new QGroupBox(QString::fromUtf16(groups[g]), this);
-        auto *grid = new QGridLayout(box);
-        for (int end = 0; end < 2; ++end) {
-            XText *field = m_fields[2 * g + end];
-            grid->addWidget(
-                LabelFor(end == 0 ? QStringLiteral("Başlangıç") : QStringLiteral("Bitiş"), field, box), end, 0);
-            grid->addWidget(field, end, 1);
-            field->setAccessibleDescription(box->title());
-        }
-        ranges->addWidget(box, 0, g);
-    }
+    auto *ranges = new QHBoxLayout;
+    ranges->addWidget(RangeBox(QStringLiteral("Sıra No"), m_fields[FirstNo], m_fields[LastNo], this));
+    ranges->addWidget(RangeBox(QStringLiteral("Tarih"), m_fields[FirstDate], m_fields[LastDate], this));
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(printButton);
     buttons->addWidget(listButton);

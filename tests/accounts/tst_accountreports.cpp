@@ -1,6 +1,6 @@
 #include "accounts/AccountStatementScreen.h"
 #include "accounts/DebitCreditScreen.h"
-#include "accounts/ListWindow.h"
+#include "controls/ListWindow.h"
 #include "controls/DcList.h"
 #include "controls/XText.h"
 #include "money/AmountConventions.h"
@@ -223,17 +223,9 @@ void TestAccountReports::datesBoundTheSums()
 
 QByteArray TestAccountReports::printRaw()
 {
-    const QByteArray before = m_spooler->received();
     printSettings().dotMatrix = true;
     AnswerPrinterSetup("Command4", this);
-    QTest::keyClick(field(0)->textBox(), Qt::Key_F8);
-    if (!QTest::qWaitFor([&] { return m_spooler->received().size() > before.size(); }, 20000))
-        return {};
-    for (qsizetype size = 0; size != m_spooler->received().size();) { // until the job is through
-        size = m_spooler->received().size();
-        QTest::qWait(300);
-    }
-    return m_spooler->received().mid(before.size());
+    return m_spooler->receive([this] { QTest::keyClick(field(0)->textBox(), Qt::Key_F8); });
 }
 
 void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter_data()

@@ -56,6 +56,19 @@ PrivateSpooler::PrivateSpooler(const QString &queue)
         m_ready = false;
 }
 
+QByteArray PrivateSpooler::receive(const std::function<void()> &print)
+{
+    const qsizetype before = m_received.size();
+    print();
+    if (!QTest::qWaitFor([&] { return m_received.size() > before; }, 20000))
+        return {};
+    for (qsizetype size = 0; size != m_received.size();) {
+        size = m_received.size();
+        QTest::qWait(300);
+    }
+    return m_received.mid(before);
+}
+
 PrivateSpooler::~PrivateSpooler()
 {
     m_cupsd.terminate();

@@ -6,6 +6,7 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 // A CUPS scheduler of the test's own (private configuration and socket in a temporary folder)
@@ -27,6 +28,9 @@ public:
     bool removeQueue(const QString &name);
     // The bytes received so far, over all connections.
     QByteArray received() const { return m_received; }
+    // Runs print and answers the bytes that reach the printer for it, once they stop coming
+    // ("" when none came within 20 s).
+    QByteArray receive(const std::function<void()> &print);
     int connections() const { return m_connections; }
     QStringList jobTitles() const;
 

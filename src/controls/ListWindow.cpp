@@ -1,4 +1,4 @@
-#include "accounts/ListWindow.h"
+#include "controls/ListWindow.h"
 
 #include "controls/DcList.h"
 
