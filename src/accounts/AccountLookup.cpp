@@ -120,13 +120,17 @@ void AccountLookup::search()
     std::unique_ptr<Recordset> rows;
     const bool found = QueryOpen(*dataFiles().db, rows, sql, { byCode ? m_code->Text() : m_title->Text() });
     m_list->Clear();
-    if (!found)
-        return;
-    do {
-        const int row = m_list->CreateNewCaption();
-        m_list->setCaption(row, 0, FieldRead(*rows, QStringLiteral("kod")).toString());
-        m_list->setCaption(row, 1, FieldRead(*rows, QStringLiteral("unv")).toString());
-    } while (RsNext(*rows));
+    if (found) {
+        do {
+            const int row = m_list->CreateNewCaption();
+            m_list->setCaption(row, 0, FieldRead(*rows, QStringLiteral("kod")).toString());
+            m_list->setCaption(row, 1, FieldRead(*rows, QStringLiteral("unv")).toString());
+        } while (RsNext(*rows));
+    }
+    // The first row is current from the start: Enter or "Tamam" returns the row the list shows.
+    m_currentKod.clear();
+    if (m_list->ListCount() > 0)
+        m_list->ChngSat(0);
 }
 
 void AccountLookup::choose()

@@ -23,6 +23,7 @@ private slots:
     void chosenRowIsReturned();
     void cancelReturnsNothing_data();
     void cancelReturnsNothing();
+    void highlightedRowIsReturnedAtOnce();
     void acceptingWithoutARowReturnsNothing();
     void lookupButtonFillsTheField();
 
@@ -142,10 +143,31 @@ void TestAccountLookup::cancelReturnsNothing()
     QCOMPARE(SelectedAccountCode(), QString());
 }
 
+// "m", Enter into the list, Enter: the first row, shown as current, is the one chosen.
+void TestAccountLookup::highlightedRowIsReturnedAtOnce()
+{
+    AccountLookup lookup;
+    lookup.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&lookup));
+    field(lookup, 0)->setFocus();
+    typeKeys(field(lookup, 0)->textBox(), QStringLiteral("m"));
+    QTest::keyClick(field(lookup, 0)->textBox(), Qt::Key_Return);
+    QTRY_VERIFY(list(lookup)->view()->hasFocus());
+    QCOMPARE(list(lookup)->CurSat(), 0);
+    QTest::keyClick(list(lookup)->view(), Qt::Key_Return);
+    QCOMPARE(lookup.result(), int(QDialog::Accepted));
+    QCOMPARE(SelectedAccountCode(), QStringLiteral("M001"));
+}
+
 void TestAccountLookup::acceptingWithoutARowReturnsNothing()
 {
     SetSelectedAccountCode(QStringLiteral("ESKİ"));
     AccountLookup lookup;
+    lookup.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&lookup));
+    field(lookup, 0)->setFocus();
+    typeKeys(field(lookup, 0)->textBox(), QStringLiteral("ZZ"));
+    QCOMPARE(list(lookup)->ListCount(), 0);
     lookup.findChild<QPushButton *>(QStringLiteral("tamam"))->click();
     QCOMPARE(SelectedAccountCode(), QString());
 }
