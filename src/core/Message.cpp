@@ -24,11 +24,8 @@ bool show(Kind kind, const QString &text)
     const QMessageBox::StandardButtons buttons
         = kind == Kind::Question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok;
     QMessageBox box(icon, QStringLiteral("Quandel"), text, buttons, QApplication::activeWindow());
-    if (kind == Kind::Question) {
-        box.button(QMessageBox::Yes)->setText(QStringLiteral("&Evet"));
-        box.button(QMessageBox::No)->setText(QStringLiteral("&Hayır"));
+    if (kind == Kind::Question)
         box.setDefaultButton(QMessageBox::No); // an Enter too many deletes nothing
-    }
     return box.exec() == QMessageBox::Yes;
 }
 

@@ -1,11 +1,13 @@
 #include "testsupport/ProgramWindow.h"
 
 #include "core/ProgramScreens.h"
+#include "core/Translations.h"
 
 #include <QtTest>
 
 std::unique_ptr<MainWindow> ShowProgramWindow()
 {
+    LoadQtTranslations(); // Qt's own texts in Turkish, as the program shows them
     auto window = std::make_unique<MainWindow>();
     AddProgramScreens(*window);
     window->show();
