@@ -1,9 +1,11 @@
-# make run   installs what is missing, builds, starts the program (xsmm.dat beside it in build/)
+# make run   installs what is missing, builds, starts the program from defter/ (the books,
+#            xsmm.dat, live there; no clean target touches that folder)
 # make test  installs what is missing, builds, runs every test, then again under ASan+UBSan
 #            (that build uses clang, so the sources pass both compilers' warnings)
 # make bench builds and runs the benchmarks
 
 BUILD      := build
+BOOKS      := defter
 ASAN_BUILD := build-asan-clang
 JOBS       ?= $(shell nproc)
 
@@ -25,10 +27,12 @@ build-asan: deps $(ASAN_BUILD)/build.ninja
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
 
 run: build
+	@mkdir -p $(BOOKS)
+	@cp $(BUILD)/serbestmeslek $(BOOKS)/serbestmeslek
 	@if [ -n "$$DISPLAY" ] || [ -n "$$WAYLAND_DISPLAY" ]; then \
-	  cd $(BUILD) && ./serbestmeslek; \
+	  cd $(BOOKS) && ./serbestmeslek; \
 	else \
-	  cd $(BUILD) && xvfb-run -a -s "-screen 0 1280x800x24" ./serbestmeslek; \
+	  cd $(BOOKS) && xvfb-run -a -s "-screen 0 1280x800x24" ./serbestmeslek; \
 	fi
 
 test-plain: build
