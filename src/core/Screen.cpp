@@ -89,5 +89,11 @@ void Screen::keyPressEvent(QKeyEvent *event)
         closeScreen();
         return;
     }
+    // Enter brings the focus to a button; Enter on it presses it.
+    auto *button = qobject_cast<QPushButton *>(focused);
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && button && button->isEnabled()) {
+        button->click();
+        return;
+    }
     QWidget::keyPressEvent(event);
 }

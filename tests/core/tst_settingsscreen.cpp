@@ -38,6 +38,7 @@ private slots:
     void labelsNameTheFields();
     void showsTheParameterSet();
     void saveStoresEveryParameterOnce();
+    void enterOnTheFocusedButtonPressesIt();
     void cancelChangesNothing();
     void escapeInTheFirstFieldCloses();
     void decimalsChangeHowAmountsShow();
@@ -159,6 +160,16 @@ void TestSettingsScreen::saveStoresEveryParameterOnce()
     QCOMPARE(GenelCurrenGet(QStringLiteral("serino")), Currency::fromUnits(501));
     QCOMPARE(GenelSingGet(QStringLiteral("kdv")), 18.5f);
     QVERIFY(m_messages->entries().isEmpty());
+}
+
+void TestSettingsScreen::enterOnTheFocusedButtonPressesIt()
+{
+    typeInto(10, QStringLiteral("Av. Deniz Kaya"));
+    auto *save = m_screen->findChild<QPushButton *>(QStringLiteral("kaydet"));
+    save->setFocus();
+    QTest::keyClick(save, Qt::Key_Return);
+    QTRY_VERIFY(!m_screen);
+    QCOMPARE(GenelTxtGet(QStringLiteral("unvan")), QStringLiteral("Av. Deniz Kaya"));
 }
 
 void TestSettingsScreen::cancelChangesNothing()
