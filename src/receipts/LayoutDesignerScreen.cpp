@@ -84,10 +84,16 @@ LayoutDesignerScreen::LayoutDesignerScreen(QWidget *parent)
     connect(add, &QPushButton::clicked, this, &LayoutDesignerScreen::addOrChange);
     connect(erase, &QPushButton::clicked, this, &LayoutDesignerScreen::remove);
     connect(m_fields[0], &XText::Left, this, &LayoutDesignerScreen::showRow);
-    connect(m_rows, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) {
+    // A row is loaded when it becomes current, by click or by the arrow keys, so that what
+    // "Sil" and "Ekle" act on is the highlighted row.
+    const auto load = [this](QListWidgetItem *item) {
+        if (!item)
+            return;
         m_fields[0]->setValue(item->text().left(4).toInt());
         showRow();
-    });
+    };
+    connect(m_rows, &QListWidget::itemClicked, this, load);
+    connect(m_rows, &QListWidget::currentItemChanged, this, load);
 
     refresh();
     clearRow();

@@ -22,6 +22,7 @@ private slots:
     void cleanup();
     void newRowTakesTheNextNumber();
     void pickingARowShowsIt();
+    void arrowKeysLoadTheHighlightedRow();
     void deleteAsksFirst();
 
 private:
@@ -109,6 +110,22 @@ void TestLayoutDesigner::pickingARowShowsIt()
     m_screen->findChild<QPushButton *>(QStringLiteral("ekle"))->click(); // changes row 1
     QCOMPARE(QueryTexts(QStringLiteral("SELECT sira || '|' || ust AS r FROM duzen"), QStringLiteral("r")),
         QStringList { "1|9.0" });
+}
+
+void TestLayoutDesigner::arrowKeysLoadTheHighlightedRow()
+{
+    addRow(7, QStringLiteral("12"), QStringLiteral("60"), QStringLiteral("8"), QString());
+    addRow(7, QStringLiteral("12"), QStringLiteral("70"), QStringLiteral("9"), QString());
+    auto *list = m_screen->findChild<QListWidget *>(QStringLiteral("List1"));
+    list->setFocus();
+    list->setCurrentRow(0);
+    QCOMPARE(field(0)->Value().toInt(), 1);
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(field(0)->Value().toInt(), 2);
+    QCOMPARE(field(2)->Text(), QStringLiteral("70"));
+    QTest::keyClick(list, Qt::Key_Up);
+    QCOMPARE(field(0)->Value().toInt(), 1);
+    QCOMPARE(field(2)->Text(), QStringLiteral("60"));
 }
 
 void TestLayoutDesigner::deleteAsksFirst()
