@@ -1,10 +1,15 @@
 #include "core/MainWindow.h"
 
 #include "core/OpenInMain.h"
+#include "core/Parameters.h"
 #include "core/ProgramArt.h"
 
+#include <QLabel>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
 
 namespace {
 
@@ -56,7 +61,42 @@ MainWindow::MainWindow(QWidget *parent)
     setCentralWidget(m_area);
     SetMainArea(m_area);
     buildMenu();
+    buildSettingsNotice();
     resize(1024, 720);
+}
+
+// Until "Ayarlar" is saved once, amounts are read with no decimals and the rates are 0: the
+// status bar says so and leads there. It is looked at again whenever a screen comes or goes.
+void MainWindow::buildSettingsNotice()
+{
+    m_settingsNotice = new QLabel(
+        QStringLiteral("Ayarlar henüz kaydedilmedi: TL ondalık hanesi ve KDV, stopaj, fon oranları için Ayarlar "
+                       "ekranını açıp kaydediniz."),
+        this);
+    m_settingsNotice->setObjectName(QStringLiteral("ayarnotu"));
+    m_settingsNotice->setAccessibleName(m_settingsNotice->text());
+    auto *open = new QPushButton(QStringLiteral("Ayarlar..."), this);
+    open->setObjectName(QStringLiteral("ayarac"));
+    open->setAccessibleName(QStringLiteral("Ayarlar"));
+    connect(open, &QPushButton::clicked, this, [this] { this->open(QStringLiteral("mnuayarlar")); });
+    statusBar()->addWidget(m_settingsNotice, 1);
+    statusBar()->addWidget(open);
+    m_settingsButton = open;
+    connect(m_area, &QMdiArea::subWindowActivated, this, &MainWindow::showSettingsNotice);
+}
+
+void MainWindow::showSettingsNotice()
+{
+    const bool saved = ParametersSaved();
+    m_settingsNotice->setVisible(!saved);
+    m_settingsButton->setVisible(!saved);
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    showSettingsNotice();
+    QMainWindow::showEvent(event);
+    emit shown();
 }
 
 void MainWindow::buildMenu()
@@ -98,10 +138,4 @@ void MainWindow::open(const QString &itemName)
         screen.instance->setAttribute(Qt::WA_DeleteOnClose);
     }
     OpenInMain(screen.instance, 0);
-}
-
-void MainWindow::showEvent(QShowEvent *event)
-{
-    QMainWindow::showEvent(event);
-    emit shown();
 }

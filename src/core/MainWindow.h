@@ -6,7 +6,9 @@
 #include <functional>
 #include <map>
 
+class QLabel;
 class QMdiArea;
+class QPushButton;
 
 // "anamenu": the frame whose menu is the only way to the screens. A menu item is enabled once
 // its screen is known; choosing it opens that screen once and brings it forward afterwards.
@@ -34,8 +36,12 @@ private:
         QPointer<QWidget> instance;
     };
     void buildMenu();
+    void buildSettingsNotice();
+    void showSettingsNotice();
     void open(const QString &itemName);
 
     QMdiArea *m_area = nullptr;
+    QLabel *m_settingsNotice = nullptr;
+    QPushButton *m_settingsButton = nullptr;
     std::map<QString, Screen> m_screens;
 };

@@ -76,6 +76,12 @@ void LoadParameters()
     conventions.subUnitWord = QStringLiteral("YKR");
 }
 
+bool ParametersSaved()
+{
+    Recordset *genel = dataFiles().genel.get();
+    return !genel || RsSeek(*genel, keyIndex, QStringLiteral("tlonda")); // no book, nothing unsaved
+}
+
 QString GenelTxtGet(const QString &key)
 {
     return genelValue(key, QStringLiteral("txt")).toString();

@@ -26,6 +26,9 @@ void SetStartConventions();
 void LoadParameters();
 // Back to a fresh process's values (for tests).
 void ResetParameters();
+// Whether "Ayarlar" has been saved on the open book (the decimals and the rates are stored);
+// true when no book is open.
+bool ParametersSaved();
 
 // Typed rows of genel: a missing key or a Null value reads as "" or 0.
 QString GenelTxtGet(const QString &key);

@@ -75,13 +75,16 @@ SettingsScreen::SettingsScreen(QWidget *parent)
         m_fields[7], m_fields[8], m_fields[9], m_fields[10], saveButton, cancelButton });
 }
 
+// A book whose settings were never saved is offered today's usual values; they are stored only
+// by "Kaydet".
 void SettingsScreen::fill()
 {
     const ParameterSet &set = parameters();
-    m_fields[0]->setValue(set.stopaj);
-    m_fields[1]->setValue(set.fon);
-    m_fields[2]->setValue(set.kdv);
-    m_fields[3]->setValue(amountConventions().tlonda);
+    const bool saved = ParametersSaved();
+    m_fields[0]->setValue(saved ? set.stopaj : 20);
+    m_fields[1]->setValue(saved ? set.fon : 0);
+    m_fields[2]->setValue(saved ? set.kdv : 20);
+    m_fields[3]->setValue(saved ? amountConventions().tlonda : 2);
     m_fields[4]->setValue(QVariant::fromValue(set.serino));
     m_fields[5]->setValue(QVariant::fromValue(set.emanet));
     m_fields[6]->setText(set.not1);

@@ -40,6 +40,7 @@ private slots:
     void saveStoresEveryParameterOnce();
     void enterOnTheFocusedButtonPressesIt();
     void cancelChangesNothing();
+    void unsavedBookIsOfferedUsualValues();
     void escapeInTheFirstFieldCloses();
     void decimalsChangeHowAmountsShow();
 
@@ -112,6 +113,7 @@ void TestSettingsScreen::labelsNameTheFields()
 void TestSettingsScreen::showsTheParameterSet()
 {
     m_screen->closeScreen();
+    GenelIntegSet(QStringLiteral("tlonda"), 2); // a book whose settings were saved
     parameters().kdv = 18.5f;
     amountConventions().tlonda = 2;
     parameters().serino = Currency::fromUnits(500);
@@ -170,6 +172,29 @@ void TestSettingsScreen::enterOnTheFocusedButtonPressesIt()
     QTest::keyClick(save, Qt::Key_Return);
     QTRY_VERIFY(!m_screen);
     QCOMPARE(GenelTxtGet(QStringLiteral("unvan")), QStringLiteral("Av. Deniz Kaya"));
+}
+
+// A fresh book: the main window says the settings were never saved and leads to them; the
+// screen offers today's usual rates and two decimals without storing them; "Kaydet" stores
+// them and the notice goes.
+void TestSettingsScreen::unsavedBookIsOfferedUsualValues()
+{
+    auto *notice = m_window->findChild<QLabel *>(QStringLiteral("ayarnotu"));
+    QVERIFY(notice->isVisible());
+    QVERIFY(notice->text().startsWith(QStringLiteral("Ayarlar henüz kaydedilmedi")));
+    QCOMPARE(QStringList({ field(0)->Text(), field(1)->Text(), field(2)->Text(), field(3)->Text() }),
+        QStringList({ "20.00", "", "20.00", "2" }));
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM genel"), QStringLiteral("n")), QStringList { "0" });
+    m_screen->closeScreen();
+    QTRY_VERIFY(!m_screen);
+    m_window->findChild<QPushButton *>(QStringLiteral("ayarac"))->click();
+    m_screen = m_window->findChild<SettingsScreen *>(QStringLiteral("Form2"));
+    QVERIFY(m_screen);
+    press("kaydet");
+    QTRY_VERIFY(!m_screen);
+    QTRY_VERIFY(!notice->isVisible());
+    QCOMPARE(amountConventions().tlonda, 2);
+    QCOMPARE(parameters().kdv, 20.0f);
 }
 
 void TestSettingsScreen::cancelChangesNothing()
