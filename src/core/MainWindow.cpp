@@ -65,6 +65,13 @@ MainWindow::MainWindow(QWidget *parent)
     resize(1024, 720);
 }
 
+// The work area closes its screens while the window is taken down; their going must not reach
+// the window then.
+MainWindow::~MainWindow()
+{
+    m_area->disconnect(this);
+}
+
 // Until "Ayarlar" is saved once, amounts are read with no decimals and the rates are 0: the
 // status bar says so and leads there. It is looked at again whenever a screen comes or goes.
 void MainWindow::buildSettingsNotice()

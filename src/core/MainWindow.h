@@ -17,6 +17,7 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 public:
     explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
 
     using ScreenFactory = std::function<QWidget *()>;
     void addScreen(const QString &itemName, ScreenFactory factory);
