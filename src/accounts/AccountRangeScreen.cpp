@@ -77,16 +77,8 @@ void AccountRangeScreen::fillCodesFromCards()
 QString AccountRangeScreen::rangeCondition(QVariantList &values) const
 {
     values << m_fields[FirstCode]->Text() << m_fields[LastCode]->Text();
-    QString condition = QStringLiteral("c.kod >= ?%1 AND c.kod <= ?%2").arg(values.size() - 1).arg(values.size());
-    const char *bounds[] = { " AND c.tarih >= ?%1", " AND c.tarih <= ?%1" };
-    for (int end = 0; end < 2; ++end) {
-        const qint64 day = m_fields[FirstDate + end]->Value().toLongLong();
-        if (day == 0)
-            continue;
-        values << day;
-        condition += QString::fromLatin1(bounds[end]).arg(values.size());
-    }
-    return condition;
+    const QString codes = QStringLiteral("c.kod >= ?%1 AND c.kod <= ?%2").arg(values.size() - 1).arg(values.size());
+    return codes + DateBounds(QStringLiteral("c.tarih"), m_fields[FirstDate], m_fields[LastDate], values);
 }
 
 bool AccountRangeScreen::admits(int tip) const

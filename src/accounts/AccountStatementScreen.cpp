@@ -1,8 +1,9 @@
 #include "accounts/AccountStatementScreen.h"
 
 #include "accounts/AccountTransactionsScreen.h"
-#include "controls/ListWindow.h"
 #include "controls/DcList.h"
+#include "controls/GridFill.h"
+#include "controls/ListWindow.h"
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "core/OpenInMain.h"
@@ -107,11 +108,8 @@ void AccountStatementScreen::listOnScreen()
     list->Clear();
     walk([list](Line, const QVariantList &cells) {
         const int row = list->CreateNewCaption();
-        for (int c = 0; row >= 0 && c < cells.size(); ++c) {
-            const QVariant &cell = cells[c];
-            list->setCaption(row, c,
-                cell.userType() == qMetaTypeId<Currency>() ? cell.value<Currency>().toString() : cell.toString());
-        }
+        for (int c = 0; row >= 0 && c < cells.size(); ++c)
+            list->setCaption(row, c, GridCellText(cells[c]));
     });
     QApplication::restoreOverrideCursor();
 }

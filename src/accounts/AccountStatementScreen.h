@@ -14,7 +14,6 @@ class AccountStatementScreen : public AccountRangeScreen
 {
     Q_OBJECT
 public:
-    enum Column { Tarih = 0, Islem, Evrak, Ack, Borc, Alacak, Bakiye };
     enum class Line { Heading, Transaction, Total };
 
     explicit AccountStatementScreen(QWidget *parent = nullptr);

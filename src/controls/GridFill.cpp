@@ -11,9 +11,7 @@
 
 #include <vector>
 
-namespace {
-
-QString cellText(const QVariant &value)
+QString GridCellText(const QVariant &value)
 {
     if (value.typeId() == QMetaType::QDate)
         return FormatDate(value.toDate());
@@ -21,8 +19,6 @@ QString cellText(const QVariant &value)
         return value.value<Currency>().toString();
     return value.toString();
 }
-
-} // namespace
 
 int FillGrid(DcList &list, Recordset &records)
 {
@@ -39,7 +35,7 @@ int FillGrid(DcList &list, Recordset &records)
         if (row < 0)
             break;
         for (const auto &[column, field] : columns)
-            list.setCaption(row, column, cellText(FieldRead(records, field)));
+            list.setCaption(row, column, GridCellText(FieldRead(records, field)));
         ++added;
     }
     return added;

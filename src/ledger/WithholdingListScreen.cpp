@@ -96,14 +96,7 @@ void WithholdingListScreen::listEntered()
         "SELECT d.tarih AS donem, d.brut AS brut, d.stopaj AS vergi, k.unv AS adsoy, k.vn AS verno, k.vd AS verda "
         "FROM defter d LEFT JOIN carkart k ON k.kod = d.cari WHERE d.islem = 0 AND d.stopaj > 0");
     QVariantList values;
-    const char *bounds[] = { " AND d.tarih >= ?%1", " AND d.tarih <= ?%1" };
-    for (int i = 0; i < 2; ++i) {
-        const qint64 day = m_dates[i]->Value().toLongLong();
-        if (day == 0)
-            continue;
-        values << day;
-        sql += QString::fromLatin1(bounds[i]).arg(values.size());
-    }
+    sql += DateBounds(QStringLiteral("d.tarih"), m_dates[0], m_dates[1], values);
     sql += QStringLiteral(" ORDER BY d.cari, d.tarih, d.oto");
     const QString query = sql + QStringLiteral("|") + QVariant(values).toStringList().join(u',');
     if (query == m_lastQuery)
