@@ -2,6 +2,8 @@
 
 #include "core/OpenInMain.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -89,10 +91,16 @@ void Screen::keyPressEvent(QKeyEvent *event)
         closeScreen();
         return;
     }
-    // Enter brings the focus to a button; Enter on it presses it.
+    // Enter brings the focus to a button; Enter on it presses it. A choice (a list to open, a
+    // box to tick) has no use for Enter: it moves on, as from a field.
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     auto *button = qobject_cast<QPushButton *>(focused);
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && button && button->isEnabled()) {
+    if (enter && button && button->isEnabled()) {
         button->click();
+        return;
+    }
+    if (enter && (qobject_cast<QComboBox *>(focused) || qobject_cast<QCheckBox *>(focused))) {
+        focusNextChild();
         return;
     }
     QWidget::keyPressEvent(event);

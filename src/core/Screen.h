@@ -19,8 +19,8 @@ class QGroupBox;
 QGroupBox *RangeBox(const QString &title, QWidget *first, QWidget *last, QWidget *parent);
 
 // What every screen shares: its form name and caption, the main window's icon, the order in
-// which Enter and Up walk its fields, Esc in the first field to close it, and Enter on a
-// focused button to press it.
+// which Enter and Up walk its fields, Esc in the first field to close it, Enter on a focused
+// button to press it and Enter on a list or check box to move on.
 class Screen : public QWidget
 {
     Q_OBJECT

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -39,14 +40,23 @@ QPushButton *button(const QString &name, const QString &caption, QWidget *parent
     return push;
 }
 
-QString defaultPdfFile(const QString &title)
+// The printout's title as a file name in the folder of the previous PDF file (the documents
+// folder at first); a file that is already there is never offered, so nothing is overwritten
+// by accident.
+QString suggestedPdfFile(const QString &previous, const QString &title)
 {
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QString folder = previous.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                        : QFileInfo(previous).absolutePath();
     if (folder.isEmpty())
         folder = QDir::homePath();
     QString name = title.trimmed();
     name.replace(u'/', u'-');
-    return QDir(folder).filePath((name.isEmpty() ? QStringLiteral("Belge") : name) + QStringLiteral(".pdf"));
+    if (name.isEmpty())
+        name = QStringLiteral("Belge");
+    QString file = QDir(folder).filePath(name + QStringLiteral(".pdf"));
+    for (int copy = 2; QFileInfo::exists(file); ++copy)
+        file = QDir(folder).filePath(QStringLiteral("%1 (%2).pdf").arg(name).arg(copy));
+    return file;
 }
 
 } // namespace
@@ -54,6 +64,7 @@ QString defaultPdfFile(const QString &title)
 PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
     : QDialog(parent)
     , m_printer(new QLabel(noPrinter, this))
+    , m_pdfOnly(new QLabel(QStringLiteral("Yazıcı olmadan yalnız PDF dosyasına yazdırılabilir."), this))
     , m_choosePrinter(button(QStringLiteral("Command1"), QStringLiteral("Yazıcı Seç"), this))
     , m_dotMatrix(option(QStringLiteral("Option1_0"), QStringLiteral("Dot Matrix (Dos Mod)"), this))
     , m_graphic(option(QStringLiteral("Option1_1"), QStringLiteral("Grafik (Windows Mod)"), this))
@@ -71,7 +82,9 @@ PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
     setObjectName(QStringLiteral("yzcsetup"));
     setWindowTitle(QStringLiteral(" Yazıcı Ayarları"));
     m_printer->setObjectName(QStringLiteral("Label1"));
-    m_printer->setAccessibleName(QStringLiteral("Yazıcı"));
+    m_printer->setAccessibleDescription(QStringLiteral("Yazıcı"));
+    m_pdfOnly->setObjectName(QStringLiteral("Label2"));
+    m_pdfOnly->setAccessibleName(m_pdfOnly->text());
     m_pdfFile->setObjectName(QStringLiteral("Text2"));
     m_lines->setObjectName(QStringLiteral("Combo1"));
     m_copies->setObjectName(QStringLiteral("Combo2"));
@@ -145,12 +158,18 @@ PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
 
     auto *page = new QVBoxLayout(this);
     page->addLayout(printerRow);
+    page->addWidget(m_pdfOnly);
     page->addLayout(middle);
     page->addLayout(buttons);
 
     connect(m_dotMatrix, &QRadioButton::toggled, this, &PrinterSetupDialog::kindChosen);
     connect(m_graphic, &QRadioButton::toggled, this, &PrinterSetupDialog::kindChosen);
     connect(m_pdf, &QRadioButton::toggled, this, &PrinterSetupDialog::kindChosen);
+    // The suggested file name follows the title until the user types a name of his own.
+    connect(m_title, &QLineEdit::textEdited, this, [this](const QString &title) {
+        if (!m_pdfFile->isModified())
+            m_pdfFile->setText(suggestedPdfFile(m_pdfFile->text(), title));
+    });
     connect(m_choosePrinter, &QPushButton::clicked, this, &PrinterSetupDialog::choosePrinter);
     connect(m_ok, &QPushButton::clicked, this, [this] { confirm(false); });
     connect(m_preview, &QPushButton::clicked, this, [this] { confirm(true); });
@@ -159,19 +178,22 @@ PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
         child->installEventFilter(this);
 
     printSettings().confirmed = false;
-    m_ok->setEnabled(false);
-    m_choosePrinter->setEnabled(false);
-    m_preview->setEnabled(false);
     showRecord();
 }
 
+// Without a printer only a PDF file can be written: the printer's kinds are greyed and a line
+// under the printer's name says so.
 void PrinterSetupDialog::showRecord()
 {
     const QString printer = CurrentPrinterName();
-    if (printer.isEmpty())
-        return; // no printer: the user can only cancel
+    const bool hasPrinter = !printer.isEmpty();
     const PrintSettings &record = printSettings();
-    m_printer->setText(printer);
+    m_printer->setText(hasPrinter ? printer : noPrinter);
+    m_printer->setAccessibleName(m_printer->text());
+    m_pdfOnly->setVisible(!hasPrinter);
+    m_dotMatrix->setEnabled(hasPrinter);
+    m_graphic->setEnabled(hasPrinter);
+    m_choosePrinter->setEnabled(hasPrinter);
     m_title->setText(record.title);
     const bool headings[] = { record.titleHeading, record.dateHeading, record.pageNoHeading, record.companyHeading };
     for (int i = 0; i < 4; ++i)
@@ -181,13 +203,12 @@ void PrinterSetupDialog::showRecord()
         m_lines->setCurrentIndex(lines);
     m_copies->setCurrentIndex(qBound(0, record.copies - 1, m_copies->count() - 1));
     (record.orientation != 1 ? m_landscape : m_portrait)->setChecked(true);
-    QRadioButton *kind = record.dotMatrix                        ? m_dotMatrix
+    QRadioButton *kind = !hasPrinter                             ? m_pdf
+        : record.dotMatrix                                       ? m_dotMatrix
         : record.target == PrintSettings::GraphicTarget::PdfFile ? m_pdf
                                                                  : m_graphic;
     kind->setChecked(true);
-    m_pdfFile->setText(record.pdfFile.isEmpty() ? defaultPdfFile(record.title) : record.pdfFile);
-    m_ok->setEnabled(true);
-    m_choosePrinter->setEnabled(true);
+    m_pdfFile->setText(suggestedPdfFile(record.pdfFile, record.title));
     kindChosen();
 }
 
@@ -198,7 +219,7 @@ void PrinterSetupDialog::kindChosen()
     m_portrait->setEnabled(!raw);
     m_landscape->setEnabled(!raw);
     m_pdfFile->setEnabled(m_pdf->isChecked());
-    m_preview->setEnabled(!raw && m_ok->isEnabled());
+    m_preview->setEnabled(!raw);
 }
 
 void PrinterSetupDialog::choosePrinter()
@@ -238,10 +259,12 @@ bool PrinterSetupDialog::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::KeyPress) {
         switch (static_cast<QKeyEvent *>(event)->key()) {
         case Qt::Key_Up:
-            m_dotMatrix->setChecked(true);
+            if (m_dotMatrix->isEnabled())
+                m_dotMatrix->setChecked(true);
             return true;
         case Qt::Key_Down:
-            m_graphic->setChecked(true);
+            if (m_graphic->isEnabled())
+                m_graphic->setChecked(true);
             return true;
         case Qt::Key_Escape:
             reject();

@@ -12,8 +12,8 @@ class QRadioButton;
 
 // " Yazıcı Ayarları" (yzcsetup): shows the print-settings record as the printing screen preset
 // it and lets the user change the printer, the kind of output, lines, copies, orientation,
-// headings and title. "&Tamam" confirms, " Önizleme " confirms for a preview, "&Vazgeç" and Esc
-// cancel. Up picks dot-matrix output and Down graphic output from any control.
+// headings and title; without a printer, a PDF file is the only kind. "&Tamam" confirms, " Önizleme " confirms for a
+// preview, "&Vazgeç" and Esc cancel. Up picks dot-matrix output and Down graphic output from any control.
 class PrinterSetupDialog : public QDialog
 {
     Q_OBJECT
@@ -30,6 +30,7 @@ private:
     void confirm(bool preview);
 
     QLabel *m_printer;
+    QLabel *m_pdfOnly;
     QPushButton *m_choosePrinter;
     QRadioButton *m_dotMatrix;
     QRadioButton *m_graphic;

@@ -13,6 +13,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
@@ -54,7 +55,6 @@ XText *ReceiptFormScreen::addField(const QString &label, int format, double limi
     each->setMinimumWidth(format == XText::TextFormat && limit > 15 ? 360 : 150);
     m_grid->addWidget(labelFor(label, each), index, 0);
     m_grid->addWidget(each, index, 1, Qt::AlignLeft);
-    connect(each, &XText::KeyDown, this, &ReceiptFormScreen::fieldKey);
     m_fields.push_back(each);
     return each;
 }
@@ -69,14 +69,12 @@ XText *ReceiptFormScreen::addAmountField(const QString &label, int grup)
 
 void ReceiptFormScreen::finishLayout(const std::vector<XText *> &focusOrder)
 {
-    auto *saveButton = new QPushButton(QStringLiteral(" Kaydet (F5) "), this);
-    saveButton->setObjectName(QStringLiteral("kaydet"));
-    auto *printButton = new QPushButton(QStringLiteral(" Yazdır (F8) "), this);
-    printButton->setObjectName(QStringLiteral("yazdir"));
+    QPushButton *saveButton
+        = addCommand(QStringLiteral("kaydet"), QStringLiteral(" Kaydet (F5) "), Qt::Key_F5, [this] { save(); });
+    QPushButton *printButton
+        = addCommand(QStringLiteral("yazdir"), QStringLiteral(" Yazdır (F8) "), Qt::Key_F8, [this] { print(); });
     saveButton->setFocusPolicy(Qt::NoFocus);
     printButton->setFocusPolicy(Qt::NoFocus);
-    connect(saveButton, &QPushButton::clicked, this, &ReceiptFormScreen::save);
-    connect(printButton, &QPushButton::clicked, this, &ReceiptFormScreen::print);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(saveButton);
@@ -106,17 +104,13 @@ void ReceiptFormScreen::resetFields(Currency last)
     }
 }
 
-void ReceiptFormScreen::fieldKey(int &key, Qt::KeyboardModifiers &)
+// Esc closes the receipt from every control, the check boxes included.
+void ReceiptFormScreen::keyPressEvent(QKeyEvent *event)
 {
-    if (key == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape)
         closeScreen();
-    else if (key == Qt::Key_F5)
-        save();
-    else if (key == Qt::Key_F8)
-        print();
     else
-        return;
-    key = 0;
+        Screen::keyPressEvent(event);
 }
 
 void ReceiptFormScreen::fillFromAccount()

@@ -24,6 +24,7 @@ public:
     virtual void print() = 0;
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     enum Field { Number = 0, Date, Code, Title, Address1, Address2, TaxOffice, TaxNumber, Description, FirstOwn };
 
     // Appends a number field of the screen's own after the shared ones.
@@ -46,7 +47,6 @@ protected:
 
 private:
     XText *addField(const QString &label, int format, double limit);
-    void fieldKey(int &key, Qt::KeyboardModifiers &modifiers);
     void fillFromAccount();
 
     std::vector<XText *> m_fields;

@@ -28,6 +28,8 @@ private slots:
     void balancePanel();
     void deleteAsksFirst();
     void movingStopsAtBothEnds();
+    void refusedWriteIsReported_data();
+    void refusedWriteIsReported();
 
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
@@ -204,6 +206,42 @@ void TestAccountCards::movingStopsAtBothEnds()
     QCOMPARE(field(0)->Text(), QStringLiteral("A1"));
     key(Qt::Key_Escape);
     QTRY_VERIFY(!m_screen);
+}
+
+void TestAccountCards::refusedWriteIsReported_data()
+{
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("new card") << "INSERT"
+                              << "Y9" << int(Qt::Key_F5) << "Cari Kartlar Yazılamıyor..";
+    QTest::newRow("changed card") << "UPDATE"
+                                  << "B1" << int(Qt::Key_F5) << "Cari Kartlar Yazılamıyor..";
+    QTest::newRow("deleted card") << "DELETE"
+                                  << "B1" << int(Qt::Key_F7) << "Kart Silinemedi.";
+}
+
+// A write the engine refuses is reported and changes nothing: the card and its transactions stay.
+void TestAccountCards::refusedWriteIsReported()
+{
+    QFETCH(QString, operation);
+    QFETCH(QString, code);
+    QFETCH(int, key);
+    QFETCH(QString, message);
+    QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 0, Currency::fromUnits(600)));
+    QVERIFY(RefuseWrites(QStringLiteral("carkart"), operation));
+    typeInto(0, code);
+    this->key(Qt::Key_Return);
+    typeInto(1, QStringLiteral("Yeni Ünvan"));
+    m_kit->messages().answerNext(true);
+    this->key(key);
+    QVERIFY(!m_kit->messages().entries().isEmpty());
+    QCOMPARE(m_kit->messages().texts().last(), message);
+    QCOMPARE(m_kit->messages().entries().last().kind, Message::Kind::Exclamation);
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT kod || '|' || unv AS r FROM carkart ORDER BY kod"), QStringLiteral("r")),
+        QStringList({ "A1|Ahmet", "B1|Birinci", "C1|Çağlar" }));
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "1" });
 }
 
 QTEST_MAIN(TestAccountCards)

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
 #include <QtTest>
 
 // The raw channel and the printer settings against a real scheduler whose one queue is a TCP
@@ -22,7 +23,9 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void init();
-    void withoutAPrinterOnlyCancelWorks();
+    void withoutAPrinterOnlyPdfIsOffered();
+    void pdfNameFollowsTheTitle_data();
+    void pdfNameFollowsTheTitle();
     void unknownPrinterOpensNothing();
     void printerReceivesExactBytes();
     void continuousPrintingIsOneJob();
@@ -61,20 +64,70 @@ void TestSpooler::init()
     SetCurrentPrinterName(QString());
 }
 
-void TestSpooler::withoutAPrinterOnlyCancelWorks()
+void TestSpooler::withoutAPrinterOnlyPdfIsOffered()
 {
     QVERIFY(m_spooler->removeQueue(QStringLiteral("nokta")));
     QVERIFY(InstalledPrinters().isEmpty());
     presetReceipt();
     PrinterSetupDialog dialog;
     QCOMPARE(control<QLabel>(dialog, "Label1")->text(), QStringLiteral("Seçili Yazıcı Yok... Yazıcı Yükleyiniz."));
-    QVERIFY(!control<QPushButton>(dialog, "Command4")->isEnabled());
+    QVERIFY(control<QLabel>(dialog, "Label2")->isVisibleTo(&dialog));
+    QCOMPARE(control<QLabel>(dialog, "Label2")->text(),
+        QStringLiteral("Yazıcı olmadan yalnız PDF dosyasına yazdırılabilir."));
+    QVERIFY(!control<QRadioButton>(dialog, "Option1_0")->isEnabled());
+    QVERIFY(!control<QRadioButton>(dialog, "Option1_1")->isEnabled());
+    QVERIFY(control<QRadioButton>(dialog, "Option1_2")->isChecked());
     QVERIFY(!control<QPushButton>(dialog, "Command1")->isEnabled());
-    QVERIFY(!control<QPushButton>(dialog, "Command6")->isEnabled());
-    QVERIFY(control<QPushButton>(dialog, "Command5")->isEnabled());
+    QVERIFY(control<QPushButton>(dialog, "Command6")->isEnabled());
+    QVERIFY(control<QPushButton>(dialog, "Command4")->isEnabled());
+    control<QPushButton>(dialog, "Command4")->click();
+    QVERIFY(printSettings().confirmed);
+    QVERIFY(!printSettings().dotMatrix);
+    QCOMPARE(printSettings().target, PrintSettings::GraphicTarget::PdfFile);
     QVERIFY(!OpenDosPrinter());
     QVERIFY(m_spooler->addQueue(QStringLiteral("nokta")));
     QCOMPARE(InstalledPrinters(), QStringList { QStringLiteral("nokta") });
+    PrinterSetupDialog withPrinter;
+    QVERIFY(!control<QLabel>(withPrinter, "Label2")->isVisibleTo(&withPrinter));
+}
+
+void TestSpooler::pdfNameFollowsTheTitle_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("suggested");
+    QTest::newRow("another printout") << "EMANET ALINDI MAKBUZU"
+                                      << "EMANET ALINDI MAKBUZU.pdf";
+    QTest::newRow("the same printout again") << "S.M. Makbuzu"
+                                             << "S.M. Makbuzu (2).pdf";
+    QTest::newRow("a slash in the title") << "Borç/Alacak"
+                                          << "Borç-Alacak.pdf";
+    QTest::newRow("no title") << ""
+                              << "Belge.pdf";
+}
+
+// The file name comes from the printout's title, in the folder of the previous file, and never
+// names a file that is already there.
+void TestSpooler::pdfNameFollowsTheTitle()
+{
+    QFETCH(QString, title);
+    QFETCH(QString, suggested);
+    QTemporaryDir dir;
+    QFile previous(dir.filePath(QStringLiteral("S.M. Makbuzu.pdf")));
+    QVERIFY(previous.open(QIODevice::WriteOnly));
+    previous.close();
+    presetReceipt();
+    printSettings().pdfFile = previous.fileName();
+    printSettings().title = title;
+    PrinterSetupDialog dialog;
+    auto *file = control<QLineEdit>(dialog, "Text2");
+    QCOMPARE(file->text(), dir.filePath(suggested));
+    control<QRadioButton>(dialog, "Option1_2")->click();
+    control<QLineEdit>(dialog, "Text1")->clear();
+    QTest::keyClicks(control<QLineEdit>(dialog, "Text1"), QStringLiteral("Kasa"));
+    QCOMPARE(file->text(), dir.filePath(QStringLiteral("Kasa.pdf"))); // a changed title carries the name along
+    QTest::keyClicks(file, QStringLiteral("x"));
+    QTest::keyClicks(control<QLineEdit>(dialog, "Text1"), QStringLiteral(" Defteri"));
+    QCOMPARE(file->text(), dir.filePath(QStringLiteral("Kasa.pdfx"))); // until a name is typed
 }
 
 void TestSpooler::unknownPrinterOpensNothing()

@@ -2,6 +2,7 @@
 #include "core/MainWindow.h"
 #include "receipts/LayoutDesignerScreen.h"
 #include "receipts/ReceiptPage.h"
+#include "testsupport/Books.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/ProgramWindow.h"
 #include "testsupport/QueryTexts.h"
@@ -24,6 +25,8 @@ private slots:
     void pickingARowShowsIt();
     void arrowKeysLoadTheHighlightedRow();
     void deleteAsksFirst();
+    void enterInTheItemListMovesOn();
+    void refusedRowIsReported();
 
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
@@ -142,6 +145,25 @@ void TestLayoutDesigner::deleteAsksFirst()
     field(0)->setValue(5);
     m_screen->findChild<QPushButton *>(QStringLiteral("sil"))->click(); // no such row: nothing asked
     QCOMPARE(m_messages->entries().size(), 2);
+}
+
+void TestLayoutDesigner::enterInTheItemListMovesOn()
+{
+    auto *items = m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"));
+    items->setFocus();
+    QTest::keyClick(items, Qt::Key_Down);
+    QTest::keyClick(items, Qt::Key_Return);
+    QCOMPARE(items->currentIndex(), 1);
+    QVERIFY(field(1)->textBox()->hasFocus());
+}
+
+void TestLayoutDesigner::refusedRowIsReported()
+{
+    QVERIFY(RefuseWrites(QStringLiteral("duzen"), QStringLiteral("INSERT")));
+    addRow(1, QStringLiteral("20"), QStringLiteral("5"), QStringLiteral("3"), QString());
+    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Kayıt Yapılamıyor.") });
+    QCOMPARE(entries(), QStringList());
+    QCOMPARE(field(2)->Text(), QStringLiteral("5")); // what was typed stays for another try
 }
 
 QTEST_MAIN(TestLayoutDesigner)

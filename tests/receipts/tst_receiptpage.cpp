@@ -13,6 +13,8 @@ private slots:
     void emptyLayoutIsBlank();
     void placing_data();
     void placing();
+    void laterRowsOverwriteEarlierOnes_data();
+    void laterRowsOverwriteEarlierOnes();
 
 private:
     static ReceiptValues receipt();
@@ -73,6 +75,26 @@ void TestReceiptPage::placing()
         const QString trimmed = QString(page[i]).remove(QRegularExpression(QStringLiteral(" +$")));
         QCOMPARE(trimmed, i + 1 == line ? text : QString());
     }
+}
+
+void TestReceiptPage::laterRowsOverwriteEarlierOnes_data()
+{
+    QTest::addColumn<bool>("numberLast");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("number over the name") << true << "    Şük501 şık";
+    QTest::newRow("name over the number") << false << "    Şükrü Işık";
+}
+
+// Two rows on one line whose columns overlap: the row added later wins, blanks and all.
+void TestReceiptPage::laterRowsOverwriteEarlierOnes()
+{
+    QFETCH(bool, numberLast);
+    QFETCH(QString, text);
+    const LayoutRow name { 0, 20, 5, 3, {} };
+    const LayoutRow number { 17, 4, 8, 3, {} };
+    const QStringList page
+        = ComposeReceiptPage(receipt(), numberLast ? std::vector { name, number } : std::vector { number, name });
+    QCOMPARE(QString(page[2]).remove(QRegularExpression(QStringLiteral(" +$"))), text);
 }
 
 QTEST_APPLESS_MAIN(TestReceiptPage)

@@ -10,6 +10,7 @@
 #include "printing/RawText.h"
 #include "receipts/DepositScreen.h"
 #include "receipts/ReceiptScreen.h"
+#include "testsupport/Books.h"
 #include "testsupport/ExpectedPage.h"
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/QueryTexts.h"
@@ -51,6 +52,13 @@ private slots:
     void fullReceiptIsPostedAndPrinted();
     void zeroTotalSavesNothing();
     void graphicOutputIsRefused();
+    void netFeeFillsTheGrossBack_data();
+    void netFeeFillsTheGrossBack();
+    void overwrittenKdvChangesTheTotal();
+    void screenKeysWorkFromACheckBox_data();
+    void screenKeysWorkFromACheckBox();
+    void refusedPostingIsReported_data();
+    void refusedPostingIsReported();
     void depositIsPostedAsACredit();
     void depositFormOnTheDotMatrixPrinter();
     void depositFormAsPdf();
@@ -58,6 +66,9 @@ private slots:
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
     void typeInto(int index, const QString &keys) { typeIn(m_screen, index, keys); }
+    // The card K1: its fee of 1,000.00 becomes the gross.
+    void chooseAccount();
+    QString totalText() const { return m_screen->findChild<QLabel *>(QStringLiteral("toplam"))->text(); }
     static void typeIn(QWidget *screen, int index, const QString &keys);
     DepositScreen *openDeposit();
     XText *depositField(int index) const
@@ -239,6 +250,99 @@ void TestReceiptScreen::graphicOutputIsRefused()
     QTest::keyClick(field(1)->textBox(), Qt::Key_F8);
     QCOMPARE(m_kit->messages().texts(), QStringList { QStringLiteral("Dot-Matrix Yazıcıdan Alınabilir..") });
     QCOMPARE(printSettings().lines, 33);
+}
+
+void TestReceiptScreen::chooseAccount()
+{
+    typeInto(2, QStringLiteral("K1"));
+    QTest::keyClick(field(2)->textBox(), Qt::Key_Return);
+}
+
+void TestReceiptScreen::netFeeFillsTheGrossBack_data()
+{
+    QTest::addColumn<bool>("withhold");
+    QTest::addColumn<bool>("levy");
+    QTest::newRow("nothing withheld") << false << false;
+    QTest::newRow("withholding") << true << false;
+    QTest::newRow("withholding and levy") << true << true;
+}
+
+// Typing the net fee works the gross fee out backwards with both rates, whatever the boxes say;
+// the net stays as typed.
+void TestReceiptScreen::netFeeFillsTheGrossBack()
+{
+    QFETCH(bool, withhold);
+    QFETCH(bool, levy);
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->setChecked(withhold);
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->setChecked(levy);
+    typeInto(12, QStringLiteral("700"));
+    QCOMPARE(field(9)->Text(), QStringLiteral("1,000.00"));
+    QCOMPARE(field(10)->amount(), Currency::fromUnits(withhold ? 200 : 0));
+    QCOMPARE(field(11)->amount(), Currency::fromUnits(levy ? 20 : 0));
+    QCOMPARE(field(12)->amount(), Currency::fromUnits(700));
+    QCOMPARE(field(13)->Text(), QStringLiteral("180.00"));
+    QCOMPARE(totalText(), QStringLiteral("880.00"));
+}
+
+void TestReceiptScreen::overwrittenKdvChangesTheTotal()
+{
+    chooseAccount();
+    QCOMPARE(totalText(), QStringLiteral("1,180.00"));
+    typeInto(13, QStringLiteral("100"));
+    QCOMPARE(totalText(), QStringLiteral("1,100.00"));
+    AnswerPrinterSetup("Command5", this);
+    QTest::keyClick(field(13)->textBox(), Qt::Key_F5);
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || '' AS r FROM carhar"), QStringLiteral("r")),
+        QStringList { "11000000" });
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT kdv || '' AS r FROM defter"), QStringLiteral("r")),
+        QStringList { "1000000" });
+}
+
+void TestReceiptScreen::screenKeysWorkFromACheckBox_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("F5 saves") << int(Qt::Key_F5);
+    QTest::newRow("F8 prints") << int(Qt::Key_F8);
+    QTest::newRow("Esc closes") << int(Qt::Key_Escape);
+}
+
+void TestReceiptScreen::screenKeysWorkFromACheckBox()
+{
+    QFETCH(int, key);
+    chooseAccount();
+    auto *box = m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"));
+    box->setFocus();
+    QVERIFY(box->hasFocus());
+    bool asked = false;
+    if (key != Qt::Key_Escape)
+        AnswerPrinterSetup("Command5", this, [&asked](QWidget *) { asked = true; });
+    QTest::keyClick(box, Qt::Key(key));
+    QCOMPARE(asked, key != Qt::Key_Escape); // saving prints too
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")),
+        QStringList { key == Qt::Key_F5 ? "1" : "0" });
+    QTRY_COMPARE(m_screen.isNull(), key == Qt::Key_Escape);
+}
+
+void TestReceiptScreen::refusedPostingIsReported_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("account transactions") << "carhar"
+                                          << "Kayıt Cari Hareketlere Kaydedilemedi..";
+    QTest::newRow("ledger") << "defter"
+                            << "Kayıt Defter Hareketlere Kaydedilemedi..";
+}
+
+void TestReceiptScreen::refusedPostingIsReported()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, message);
+    QVERIFY(RefuseWrites(table, QStringLiteral("INSERT")));
+    chooseAccount();
+    AnswerPrinterSetup("Command5", this);
+    QTest::keyClick(field(2)->textBox(), Qt::Key_F5);
+    QCOMPARE(m_kit->messages().texts(), QStringList { message });
+    QCOMPARE(m_kit->messages().entries().first().kind, Message::Kind::Exclamation);
 }
 
 DepositScreen *TestReceiptScreen::openDeposit()

@@ -29,3 +29,10 @@ bool AddLedgerRow(int islem, QDate date, const LedgerAmountsInUnits &amounts, co
                Currency::fromUnits(amounts.kdv) })
         > 0;
 }
+
+bool RefuseWrites(const QString &table, const QString &operation)
+{
+    return SqlExecute(*dataFiles().db,
+        QStringLiteral("CREATE TRIGGER refuse_%1_%2 BEFORE %2 ON %1 BEGIN SELECT RAISE(ABORT, 'refused'); END")
+            .arg(table, operation));
+}

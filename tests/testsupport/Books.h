@@ -17,3 +17,7 @@ struct LedgerAmountsInUnits
 };
 bool AddLedgerRow(int islem, QDate date, const LedgerAmountsInUnits &amounts, const QString &cari = QString(),
     const QString &evrak = QStringLiteral("E1"), const QString &ack = QStringLiteral("Kayıt"));
+
+// Makes the engine refuse every `operation` ("INSERT", "UPDATE" or "DELETE") on `table` from now
+// on, as a full disk or a locked file would: the screens' failure paths.
+bool RefuseWrites(const QString &table, const QString &operation);
