@@ -18,6 +18,10 @@ ListWindow::ListWindow(const QString &formName, const QString &caption, QWidget 
     auto *page = new QVBoxLayout(this);
     page->addWidget(m_list);
     setFocusChain({ m_list });
+    connect(m_list, &DcList::KeyDown, this, [this](int key, int, int) {
+        if (key == Qt::Key_Escape)
+            closeScreen();
+    });
 }
 
 void ListWindow::fitToColumns()

@@ -4,7 +4,8 @@
 
 class DcList;
 
-// A report shown on the screen: a read-only grid in a window of its own in the main window.
+// A report shown on the screen: a read-only grid in a window of its own in the main window;
+// Esc closes it.
 class ListWindow : public Screen
 {
     Q_OBJECT

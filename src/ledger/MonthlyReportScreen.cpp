@@ -10,7 +10,6 @@
 
 #include <QHeaderView>
 #include <QTableView>
-#include <QVBoxLayout>
 
 #include <array>
 
@@ -24,29 +23,20 @@ constexpr int totalRow = 13;
 } // namespace
 
 MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
-    : Screen(QStringLiteral("Form9"), QStringLiteral("Kdv, Stopaj Raporu"), parent)
-    , m_list(new DcList(this))
+    : ListWindow(QStringLiteral("Form9"), QStringLiteral("Kdv, Stopaj Raporu"), parent)
 {
-    m_list->setObjectName(QStringLiteral("dclist1"));
-    m_list->setAccessibleName(QStringLiteral("Kdv, Stopaj Raporu"));
-    m_list->view()->setAccessibleName(QStringLiteral("Kdv, Stopaj Raporu"));
-    m_list->setZebra(true);
-    m_list->setEditable(false);
-    m_list->setScroll(0);
+    list()->setScroll(0);
     const int onda = amountConventions().tlonda;
     const double limit = 999999999999.0;
-    m_list->Add(QStringLiteral("a"), QStringLiteral("donem"), QStringLiteral("Dönem"), 80, 12, 0, 0, 0);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("indmatrah"), QStringLiteral("İnd.Matrah"), 110, limit, 0, onda, 3);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("indkdv"), QStringLiteral("İnd.KDV"), 110, limit, 0, onda, 3);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("hesmatrah"), QStringLiteral("Hes.Matrah"), 110, limit, 0, onda, 3);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("heskdv"), QStringLiteral("Hes.KDV"), 110, limit, 0, onda, 3);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, limit, 0, onda, 3);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, limit, 0, onda, 3);
-    const int rowHeight = m_list->view()->verticalHeader()->defaultSectionSize();
-    m_list->setMinimumSize(80 + 6 * 110 + 4, (totalRow + 2) * rowHeight + 8);
-    auto *page = new QVBoxLayout(this);
-    page->addWidget(m_list);
-    setFocusChain({ m_list });
+    list()->Add(QStringLiteral("a"), QStringLiteral("donem"), QStringLiteral("Dönem"), 80, 12, 0, 0, 0);
+    list()->Add(QStringLiteral("n"), QStringLiteral("indmatrah"), QStringLiteral("İnd.Matrah"), 110, limit, 0, onda, 3);
+    list()->Add(QStringLiteral("n"), QStringLiteral("indkdv"), QStringLiteral("İnd.KDV"), 110, limit, 0, onda, 3);
+    list()->Add(QStringLiteral("n"), QStringLiteral("hesmatrah"), QStringLiteral("Hes.Matrah"), 110, limit, 0, onda, 3);
+    list()->Add(QStringLiteral("n"), QStringLiteral("heskdv"), QStringLiteral("Hes.KDV"), 110, limit, 0, onda, 3);
+    list()->Add(QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, limit, 0, onda, 3);
+    list()->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, limit, 0, onda, 3);
+    const int rowHeight = list()->view()->verticalHeader()->defaultSectionSize();
+    list()->setMinimumSize(80 + 6 * 110 + 4, (totalRow + 2) * rowHeight + 8);
     compute();
 }
 
@@ -55,10 +45,12 @@ MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
 // have no month and stay out.
 void MonthlyReportScreen::compute()
 {
-    m_list->Clear();
+    list()->Clear();
     for (int row = 0; row <= totalRow; ++row)
-        m_list->setCaption(m_list->CreateNewCaption(), Donem,
-            row < 12 ? QString::fromUtf16(months[row]) : row == totalRow ? QStringLiteral("TOPLAM") : QString());
+        list()->setCaption(list()->CreateNewCaption(), Donem,
+            row < 12              ? QString::fromUtf16(months[row])
+                : row == totalRow ? QStringLiteral("TOPLAM")
+                                  : QString());
     const int year = Today().year();
     std::array<std::array<Currency, 7>, 12> month {};
     std::unique_ptr<Recordset> rows;
@@ -85,9 +77,9 @@ void MonthlyReportScreen::compute()
     std::array<Currency, 7> total {};
     for (int m = 0; m < 12; ++m)
         for (int c = IndMatrah; c <= Fon; ++c) {
-            m_list->setCaption(m, c, month[size_t(m)][size_t(c)].toString());
+            list()->setCaption(m, c, month[size_t(m)][size_t(c)].toString());
             total[size_t(c)] += month[size_t(m)][size_t(c)];
         }
     for (int c = IndMatrah; c <= Fon; ++c)
-        m_list->setCaption(totalRow, c, total[size_t(c)].toString());
+        list()->setCaption(totalRow, c, total[size_t(c)].toString());
 }

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "core/Screen.h"
-
-class DcList;
+#include "controls/ListWindow.h"
 
 // "Kdv, Stopaj Raporu" (Form9): for each month of the current calendar year the deductible base
 // and VAT of the expenses, the computed base and VAT of the income, and the withholding and
 // fund of the income, with the year's totals. Read-only.
-class MonthlyReportScreen : public Screen
+class MonthlyReportScreen : public ListWindow
 {
     Q_OBJECT
 public:
@@ -16,7 +14,4 @@ public:
     explicit MonthlyReportScreen(QWidget *parent = nullptr);
 
     void compute();
-
-private:
-    DcList *m_list;
 };

@@ -36,7 +36,7 @@ QPushButton *button(const QString &name, const QString &caption, QWidget *parent
 {
     auto *push = new QPushButton(caption, parent);
     push->setObjectName(name);
-    push->setAutoDefault(false);
+    push->setAutoDefault(true); // Enter presses the focused button
     return push;
 }
 
@@ -120,6 +120,7 @@ PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
     kindLayout->addWidget(m_pdf);
     kindLayout->addWidget(m_pdfFile);
     m_pdfFile->setAccessibleName(QStringLiteral("PDF Dosyası"));
+    m_pdfFile->setMinimumWidth(260);
 
     auto *orientationBox = new QGroupBox(QStringLiteral("Sayfa Yönü"), this);
     auto *orientationLayout = new QVBoxLayout(orientationBox);
@@ -177,6 +178,7 @@ PrinterSetupDialog::PrinterSetupDialog(QWidget *parent)
     for (QWidget *child : findChildren<QWidget *>())
         child->installEventFilter(this);
 
+    m_ok->setDefault(true); // Enter elsewhere confirms
     printSettings().confirmed = false;
     showRecord();
 }

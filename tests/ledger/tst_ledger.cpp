@@ -245,6 +245,9 @@ void TestLedger::monthlyReport()
     QCOMPARE(row(10), QStringList({ "Kasım", "100.00", "18.00", "", "", "", "" }));
     QCOMPARE(row(12), QStringList({ "", "", "", "", "", "", "" }));
     QCOMPARE(row(13), QStringList({ "TOPLAM", "600.00", "108.00", "1,000.00", "180.00", "200.00", "10.00" }));
+    QPointer<MonthlyReportScreen> open = report;
+    QTest::keyClick(list->view(), Qt::Key_Escape);
+    QTRY_VERIFY(open.isNull()); // Esc closes the report
 }
 
 QTEST_MAIN(TestLedger)

@@ -32,8 +32,8 @@ private slots:
     void receiptPresetIsShown();
     void cancelKeepsThePreset();
     void graphicGreysTheLines();
-    void keysChooseTheKind_data();
-    void keysChooseTheKind();
+    void keysOfTheDialog_data();
+    void keysOfTheDialog();
     void okWritesTheRecord();
 
 private:
@@ -237,7 +237,7 @@ void TestSpooler::graphicGreysTheLines()
     QVERIFY(!printSettings().dotMatrix);
 }
 
-void TestSpooler::keysChooseTheKind_data()
+void TestSpooler::keysOfTheDialog_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<bool>("presetDotMatrix");
@@ -246,9 +246,10 @@ void TestSpooler::keysChooseTheKind_data()
     QTest::newRow("Up: dot matrix") << int(Qt::Key_Up) << false << true << true;
     QTest::newRow("Down: graphic") << int(Qt::Key_Down) << true << false << true;
     QTest::newRow("Esc: cancel") << int(Qt::Key_Escape) << true << true << false;
+    QTest::newRow("Enter: confirm") << int(Qt::Key_Return) << true << true << false;
 }
 
-void TestSpooler::keysChooseTheKind()
+void TestSpooler::keysOfTheDialog()
 {
     QFETCH(int, key);
     QFETCH(bool, presetDotMatrix);
@@ -265,7 +266,7 @@ void TestSpooler::keysChooseTheKind()
     QCOMPARE(control<QRadioButton>(dialog, "Option1_0")->isChecked(), dotMatrixAfter);
     QCOMPARE(dialog.isVisible(), open);
     QCOMPARE(copies->currentText(), QStringLiteral("1")); // the keys do not reach the list
-    QVERIFY(!printSettings().confirmed);
+    QCOMPARE(printSettings().confirmed, key == Qt::Key_Return);
 }
 
 void TestSpooler::okWritesTheRecord()
