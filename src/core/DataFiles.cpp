@@ -3,7 +3,14 @@
 #include "core/AccessLayer.h"
 #include "core/Message.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <unistd.h>
 
 namespace {
 
@@ -127,6 +134,106 @@ bool addMissingIndexes(Database &db)
     return true;
 }
 
+// "xsmm.dat.yeni-<process>": a new file while its tables are being made.
+const QString buildingMark = QStringLiteral(".yeni-");
+
+void removeUnfinishedBuilds()
+{
+    QDir folder(ProgramFolder());
+    const QString pattern = QStringLiteral("xsmm.dat") + buildingMark + u'*';
+    for (const QString &name : folder.entryList({ pattern }, QDir::Files))
+        folder.remove(name);
+}
+
+// Makes the five tables in a new, empty file; true when all of them exist.
+bool buildSchema(const QString &path)
+{
+    QFile empty(path);
+    if (!empty.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    empty.close();
+    std::unique_ptr<Database> db = Database::open(path);
+    if (!db)
+        return false;
+    for (const TableSpec &table : schema())
+        if (!createTable(*db, table))
+            return false;
+    return true;
+}
+
+// The new name of a file is on disk only when its folder is.
+void syncFolder(const QString &path)
+{
+    const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY);
+    if (folder >= 0) {
+        ::fsync(folder);
+        ::close(folder);
+    }
+}
+
+// Every table has the columns, types, required flags and keys that the program makes: compared
+// with a schema made in memory. Only reads the file.
+bool hasOurTables(Database &file)
+{
+    std::unique_ptr<Database> reference = Database::inMemory();
+    if (!reference)
+        return false;
+    for (const TableSpec &table : schema()) {
+        if (!createTable(*reference, table))
+            return false;
+        const QString columns = QStringLiteral("SELECT name || ' ' || type || ' ' || \"notnull\" || ' ' || pk "
+                                               "FROM pragma_table_info('%1')")
+                                    .arg(QString::fromUtf16(table.name));
+        int error = 0;
+        const QStringList found = file.texts(columns, &error);
+        if (error != SQLITE_OK || found != reference->texts(columns))
+            return false;
+    }
+    return true;
+}
+
+DataFileState stateOf(int error)
+{
+    switch (error) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return DataFileState::InUse;
+    case SQLITE_NOTADB:
+        return DataFileState::Foreign;
+    case SQLITE_CORRUPT:
+        return DataFileState::Damaged;
+    default:
+        return DataFileState::Failed;
+    }
+}
+
+DataFileState openChecked(DataFiles &files)
+{
+    if (!QFileInfo::exists(DataFilePath()))
+        return DataFileState::Missing;
+    int error = SQLITE_OK;
+    files.db = Database::open(DataFilePath(), &error);
+    if (!files.db)
+        return stateOf(error);
+    if (!hasOurTables(*files.db))
+        return DataFileState::Foreign;
+    const QStringList check = files.db->texts(QStringLiteral("PRAGMA quick_check"), &error);
+    if (error != SQLITE_OK)
+        return stateOf(error);
+    if (check != QStringList { QStringLiteral("ok") })
+        return DataFileState::Damaged;
+    const bool open = RsOpen(*files.db, files.genel, QStringLiteral("genel"))
+        && RsOpen(*files.db, files.carkart, QStringLiteral("carkart"))
+        && RsOpen(*files.db, files.carhar, QStringLiteral("carhar"))
+        && RsOpen(*files.db, files.defter, QStringLiteral("defter"))
+        && RsOpen(*files.db, files.duzen, QStringLiteral("duzen"));
+    if (!open)
+        return DataFileState::Failed;
+    if (!addMissingIndexes(*files.db))
+        return stateOf(sqlite3_errcode(files.db->handle()) & 0xff);
+    return DataFileState::Open;
+}
+
 } // namespace
 
 DataFiles &dataFiles()
@@ -150,28 +257,31 @@ QString DataFilePath()
     return ProgramFolder() + QStringLiteral("xsmm.dat");
 }
 
-bool OpenDataFiles()
+bool OpenDataFiles(DataFileState *why)
 {
     CloseDataFiles();
-    DataFiles &files = dataFiles();
-    return DbOpen(files.db, DataFilePath()) && RsOpen(*files.db, files.genel, QStringLiteral("genel"))
-        && RsOpen(*files.db, files.carkart, QStringLiteral("carkart"))
-        && RsOpen(*files.db, files.carhar, QStringLiteral("carhar"))
-        && RsOpen(*files.db, files.defter, QStringLiteral("defter"))
-        && RsOpen(*files.db, files.duzen, QStringLiteral("duzen")) && addMissingIndexes(*files.db);
+    const DataFileState state = openChecked(dataFiles());
+    if (why)
+        *why = state;
+    return state == DataFileState::Open;
 }
 
 bool CreateDataFiles()
 {
     CloseDataFiles();
-    DataFiles &files = dataFiles();
-    if (!DbCreate(files.db, DataFilePath())) {
+    const QString path = DataFilePath();
+    const QString building = QStringLiteral("%1%2%3").arg(path, buildingMark).arg(QCoreApplication::applicationPid());
+    removeUnfinishedBuilds();
+    const bool built = !QFileInfo::exists(path) && buildSchema(building);
+    if (!built || !QFile::rename(building, path)) {
+        QFile::remove(building);
+        QFile::remove(building + QStringLiteral("-journal"));
+        if (!built && !QFileInfo::exists(path))
+            return false; // the table that failed has been reported
         Message::exclamation(QStringLiteral("\nSql Dosyası Yaratılamadı."));
         return false;
     }
-    for (const TableSpec &table : schema())
-        if (!createTable(*files.db, table))
-            return false;
+    syncFolder(ProgramFolder());
     return true;
 }
 

@@ -25,9 +25,22 @@ QString ProgramFolder();
 void SetProgramFolder(const QString &folder);
 QString DataFilePath();
 
-// Opens "xsmm.dat" and a cursor on each table; false at the first failure.
-bool OpenDataFiles();
+// Why "xsmm.dat" did not open.
+enum class DataFileState {
+    Open,
+    Missing, // no file yet
+    InUse, // another program holds it
+    Foreign, // not a database, or its tables are not ours
+    Damaged, // the engine found a damaged page
+    Failed, // anything else (not writable, no cursor)
+};
+
+// Opens "xsmm.dat" and a cursor on each table; false at the first failure, and then `why`
+// says what was found. A file that is in use, not ours or damaged is only read, never written.
+bool OpenDataFiles(DataFileState *why = nullptr);
 // Creates "xsmm.dat" with its five tables and their indexes; never touches an existing file.
+// The file is built under another name and takes its own only when it is complete, so that an
+// interrupted creation leaves no "xsmm.dat" behind.
 bool CreateDataFiles();
 // Closes the file and the cursors.
 void CloseDataFiles();

@@ -52,8 +52,8 @@ void partOfDayNumber(sqlite3_context *context, int, sqlite3_value **arguments)
 
 bool addDatePart(sqlite3 *db, const char *name, const DatePart &part)
 {
-    return sqlite3_create_function_v2(db, name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
-               const_cast<DatePart *>(&part), partOfDayNumber, nullptr, nullptr, nullptr)
+    return sqlite3_create_function_v2(db, name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, const_cast<DatePart *>(&part),
+               partOfDayNumber, nullptr, nullptr, nullptr)
         == SQLITE_OK;
 }
 

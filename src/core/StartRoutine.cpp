@@ -9,6 +9,27 @@
 
 #include <QCoreApplication>
 
+namespace {
+
+// What the user is told when the books do not open.
+QString startFailureText(DataFileState state)
+{
+    switch (state) {
+    case DataFileState::InUse:
+        return QStringLiteral("Veri dosyası başka bir program tarafından kullanılıyor.\n"
+                              "O programı kapatıp Serbest Meslek'i yeniden başlatınız.");
+    case DataFileState::Foreign:
+        return QStringLiteral("Bu klasördeki xsmm.dat bu programın veri dosyası değil.\n"
+                              "Dosyaya hiçbir şey yazılmadı.");
+    case DataFileState::Damaged:
+        return QStringLiteral("Veri dosyası (xsmm.dat) bozulmuş.\nDosyaya hiçbir şey yazılmadı.");
+    default:
+        return QStringLiteral("Dosyalar Yaratılamıyor...");
+    }
+}
+
+} // namespace
+
 StartRoutine::StartRoutine(int splashMilliseconds)
     : m_splashMilliseconds(splashMilliseconds)
 {
@@ -21,12 +42,13 @@ bool StartRoutine::run(const QString &programFolder)
     SetStartConventions();
     SetProgramFolder(programFolder);
 
-    bool open = OpenDataFiles();
-    while (!open && CreateDataFiles())
-        open = OpenDataFiles();
+    DataFileState state = DataFileState::Failed;
+    bool open = OpenDataFiles(&state);
+    if (!open && (state == DataFileState::Missing || state == DataFileState::Failed) && CreateDataFiles())
+        open = OpenDataFiles(&state);
     if (!open) {
         CloseDataFiles();
-        Message::exclamation(QStringLiteral("Dosyalar Yaratılamıyor..."));
+        Message::exclamation(startFailureText(state));
         return false;
     }
     LoadParameters();

@@ -17,7 +17,8 @@ public:
     ~StartRoutine() override;
 
     // Steps up to the parameters; false (after "Dosyalar Yaratılamıyor...") when the data file
-    // can be neither opened nor created.
+    // can be neither opened nor created, or after saying why an existing file is left alone
+    // (in use by another program, not ours, damaged).
     bool run(const QString &programFolder);
     // The splash; when its time is up, the main window.
     void showSplash();

@@ -1,12 +1,22 @@
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
+#include "core/Database.h"
 #include "core/Parameters.h"
+#include "core/Postings.h"
 #include "core/StartRoutine.h"
 #include "money/AmountConventions.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/QueryTexts.h"
 
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QThread>
 #include <QtTest>
+
+#include <csignal>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -29,7 +39,12 @@ QStringList columnsOf(const QString &table)
         QStringLiteral("SELECT name || ' ' || type AS c FROM pragma_table_info(?1)"), QStringLiteral("c"), { table });
 }
 
+// Files found where the books should be that the program must not write to.
+enum class Found { Garbage, Text, OtherTables, ExtraColumn, DamagedPage };
+
 } // namespace
+
+Q_DECLARE_METATYPE(Found)
 
 class TestDataFiles : public QObject
 {
@@ -42,10 +57,20 @@ private slots:
     void schema();
     void secondStartOpensTheSameFile();
     void olderFileGetsItsLookupIndex();
-    void unusableFileIsLeftAlone_data();
-    void unusableFileIsLeftAlone();
+    void fileThatIsNotOursIsLeftAlone_data();
+    void fileThatIsNotOursIsLeftAlone();
+    void killsDuringTheFirstStartNeverBlockTheNext();
+    void fullDiskLeavesNoBook();
+    void fileHeldByAnotherProgram_data();
+    void fileHeldByAnotherProgram();
+    void killDuringPostingsLosesNoCommittedRow();
+    void twoCopiesPostingAtOnceLoseNothing();
 
 private:
+    bool makeFile(Found kind, const QString &path);
+    QString dataFile() const { return m_dir->filePath(QStringLiteral("xsmm.dat")); }
+    // Opens the folder's books as a start does, then closes them; the messages it gave.
+    QStringList startAndClose();
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<MessageLog> m_messages;
 };
@@ -135,7 +160,8 @@ void TestDataFiles::olderFileGetsItsLookupIndex()
         QVERIFY(SqlExecute(*dataFiles().db, QStringLiteral("DROP INDEX ") + QString::fromLatin1(index)));
     QVERIFY(OpenDataFiles());
     const QString indexes = QStringLiteral("SELECT name FROM pragma_index_list('carhar') ORDER BY name");
-    QCOMPARE(QueryTexts(indexes, QStringLiteral("name")), QStringList({ "carhar_islemtarih", "carhar_kodbakiye", "carhar_kodtarih" }));
+    QCOMPARE(QueryTexts(indexes, QStringLiteral("name")),
+        QStringList({ "carhar_islemtarih", "carhar_kodbakiye", "carhar_kodtarih" }));
     QCOMPARE(
         QueryTexts(QStringLiteral("SELECT kod || tutar AS r FROM carhar"), QStringLiteral("r")), QStringList { "K15" });
 }
@@ -155,27 +181,211 @@ void TestDataFiles::secondStartOpensTheSameFile()
     QVERIFY(m_messages->entries().isEmpty());
 }
 
-void TestDataFiles::unusableFileIsLeftAlone_data()
+void TestDataFiles::fileThatIsNotOursIsLeftAlone_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QByteArray garbage;
-    for (int i = 0; i < 8192; ++i)
-        garbage += char((i * 7919) % 251);
-    QTest::newRow("not a database") << garbage;
-    QTest::newRow("text") << QByteArray("Bu bir veri dosyası değil.\r\n");
+    QTest::addColumn<Found>("found");
+    QTest::addColumn<QString>("message");
+    const QString foreign = QStringLiteral("Bu klasördeki xsmm.dat bu programın veri dosyası değil.\n"
+                                           "Dosyaya hiçbir şey yazılmadı.");
+    QTest::newRow("not a database") << Found::Garbage << foreign;
+    QTest::newRow("text") << Found::Text << foreign;
+    QTest::newRow("another program's tables of the same names") << Found::OtherTables << foreign;
+    QTest::newRow("a column more") << Found::ExtraColumn << foreign;
+    QTest::newRow("a damaged page") << Found::DamagedPage
+                                    << QStringLiteral(
+                                           "Veri dosyası (xsmm.dat) bozulmuş.\nDosyaya hiçbir şey yazılmadı.");
 }
 
-void TestDataFiles::unusableFileIsLeftAlone()
+void TestDataFiles::fileThatIsNotOursIsLeftAlone()
 {
-    QFETCH(QByteArray, bytes);
+    QFETCH(Found, found);
+    QFETCH(QString, message);
     const QString path = m_dir->filePath(QStringLiteral("xsmm.dat"));
-    QVERIFY(writeFile(path, bytes));
+    QVERIFY(makeFile(found, path));
+    const QByteArray before = contents(path);
     StartRoutine start;
     QVERIFY(!start.run(m_dir->path()));
-    QCOMPARE(m_messages->texts(),
-        QStringList({ QStringLiteral("\nSql Dosyası Yaratılamadı."), QStringLiteral("Dosyalar Yaratılamıyor...") }));
-    QCOMPARE(contents(path), bytes);
+    QCOMPARE(m_messages->texts(), QStringList { message });
+    QCOMPARE(contents(path), before);
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList { QStringLiteral("xsmm.dat") });
+}
+
+bool TestDataFiles::makeFile(Found kind, const QString &path)
+{
+    switch (kind) {
+    case Found::Garbage: {
+        QByteArray garbage;
+        for (int i = 0; i < 8192; ++i)
+            garbage += char((i * 7919) % 251);
+        return writeFile(path, garbage);
+    }
+    case Found::Text:
+        return writeFile(path, "Bu bir veri dosyası değil.\r\n");
+    case Found::OtherTables: {
+        std::unique_ptr<Database> other = Database::create(path);
+        return other
+            && other->run(QStringLiteral("CREATE TABLE genel (a, b); CREATE TABLE carkart (a, b); "
+                                         "CREATE TABLE carhar (a, b); CREATE TABLE defter (a, b); "
+                                         "CREATE TABLE duzen (a, b);"));
+    }
+    case Found::ExtraColumn:
+        SetProgramFolder(m_dir->path());
+        return CreateDataFiles() && OpenDataFiles()
+            && SqlExecute(*dataFiles().db, QStringLiteral("ALTER TABLE carkart ADD COLUMN eposta TEXT"))
+            && (CloseDataFiles(), true);
+    case Found::DamagedPage: {
+        SetProgramFolder(m_dir->path());
+        if (!CreateDataFiles() || !OpenDataFiles())
+            return false;
+        const bool filled = SqlExecute(*dataFiles().db,
+            QStringLiteral("INSERT INTO carhar (kod, tarih, islem, ack, ba, tutar) WITH RECURSIVE n(i) AS "
+                           "(SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) SELECT 'K' || (i % 50), "
+                           "46000 + i % 365, 1, 'Hareket açıklaması', i % 2, i * 10000 FROM n"));
+        CloseDataFiles();
+        if (!filled)
+            return false;
+        QFile file(path);
+        // Fifty bytes of a page in the middle zeroed: the page still reads, its records do not add up.
+        if (!file.open(QIODevice::ReadWrite) || !file.seek(file.size() / 4096 / 2 * 4096 + 4000))
+            return false;
+        return file.write(QByteArray(50, '\0')) == 50;
+    }
+    }
+    return false;
+}
+
+QStringList TestDataFiles::startAndClose()
+{
+    m_messages->clear();
+    StartRoutine start;
+    start.run(m_dir->path());
+    CloseDataFiles();
+    return m_messages->texts();
+}
+
+// The start is killed at random moments of the first start: afterwards there is either no book
+// or a whole one, and the next start opens it.
+void TestDataFiles::killsDuringTheFirstStartNeverBlockTheNext()
+{
+    const QString starter = QCoreApplication::applicationDirPath() + QStringLiteral("/books_starter");
+    QElapsedTimer clock;
+    clock.start();
+    QProcess whole;
+    whole.start(starter, { m_dir->path() });
+    QVERIFY(whole.waitForFinished());
+    QCOMPARE(whole.exitCode(), 0);
+    const int wholeRun = int(clock.elapsed());
+    QVERIFY(QFile::remove(dataFile()));
+    QRandomGenerator random(20261123);
+    int interrupted = 0;
+    for (int kill = 0; kill < 40; ++kill) {
+        QProcess process;
+        process.start(starter, { m_dir->path() });
+        QVERIFY(process.waitForStarted());
+        QThread::msleep(random.bounded(wholeRun + 1));
+        process.kill();
+        process.waitForFinished();
+        if (!QFile::exists(dataFile()))
+            ++interrupted;
+        QCOMPARE(startAndClose(), QStringList());
+        QVERIFY(QFile::remove(dataFile()));
+    }
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList());
+    QVERIFY2(interrupted > 0, "no kill came before the book was whole");
+}
+
+// Writing stops after a few kilobytes, as on a full disk: no book is left, and once there is
+// room again the next start makes one.
+void TestDataFiles::fullDiskLeavesNoBook()
+{
+    rlimit before {};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    rlimit full = before;
+    full.rlim_cur = 6000;
+    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
+    const QStringList messages = startAndClose();
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, previousHandler);
+    QCOMPARE(messages.last(), QStringLiteral("Dosyalar Yaratılamıyor..."));
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList());
+    QCOMPARE(startAndClose(), QStringList());
+    QVERIFY(QFile::exists(dataFile()));
+}
+
+void TestDataFiles::fileHeldByAnotherProgram_data()
+{
+    QTest::addColumn<QString>("hold");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("another program writing") << "BEGIN EXCLUSIVE"
+                                             << QStringList { "Veri dosyası başka bir program tarafından "
+                                                              "kullanılıyor.\nO programı kapatıp Serbest Meslek'i "
+                                                              "yeniden başlatınız." };
+    QTest::newRow("another program reading") << "BEGIN; SELECT count(*) FROM carhar" << QStringList {};
+}
+
+// Another program holds the file: a reader does not stop the start; a writer that does not let
+// go is named as such, and the file is neither created over nor changed.
+void TestDataFiles::fileHeldByAnotherProgram()
+{
+    QFETCH(QString, hold);
+    QFETCH(QStringList, messages);
+    QCOMPARE(startAndClose(), QStringList());
+    const QByteArray before = contents(dataFile());
+    std::unique_ptr<Database> other = Database::open(dataFile());
+    QVERIFY(other && other->run(hold));
+    QCOMPARE(startAndClose(), messages);
+    QCOMPARE(contents(dataFile()), before);
+    QVERIFY(other->run(QStringLiteral("COMMIT")));
+}
+
+// Killed while it posts one transaction after another: every posting it reported as done is
+// in the file, and the file is whole.
+void TestDataFiles::killDuringPostingsLosesNoCommittedRow()
+{
+    const QString starter = QCoreApplication::applicationDirPath() + QStringLiteral("/books_starter");
+    QProcess process;
+    process.start(starter, { m_dir->path(), QStringLiteral("10000") });
+    QVERIFY(process.waitForStarted());
+    const int killAt = QRandomGenerator::global()->bounded(200, 1500);
+    int done = 0;
+    while (done < killAt && process.waitForReadyRead(20000))
+        while (process.canReadLine()) {
+            const QByteArray line = process.readLine().trimmed();
+            if (line.at(0) >= '0' && line.at(0) <= '9')
+                done = line.toInt();
+        }
+    QVERIFY(done >= killAt);
+    ::kill(pid_t(process.processId()), SIGKILL);
+    process.waitForFinished();
+    while (process.canReadLine())
+        done = std::max(done, process.readLine().trimmed().toInt());
+    SetProgramFolder(m_dir->path());
+    QVERIFY(OpenDataFiles());
+    const int stored
+        = QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")).value(0).toInt();
+    QVERIFY2(stored == done || stored == done + 1,
+        qPrintable(QStringLiteral("%1 reported, %2 stored").arg(done).arg(stored)));
+    QCOMPARE(dataFiles().db->texts(QStringLiteral("PRAGMA integrity_check")), QStringList { QStringLiteral("ok") });
+}
+
+// Two copies of the program post at the same time: each waits for the other's moment of writing
+// instead of refusing the posting.
+void TestDataFiles::twoCopiesPostingAtOnceLoseNothing()
+{
+    QCOMPARE(startAndClose(), QStringList());
+    const QString starter = QCoreApplication::applicationDirPath() + QStringLiteral("/books_starter");
+    QProcess first;
+    QProcess second;
+    for (QProcess *copy : { &first, &second })
+        copy->start(starter, { m_dir->path(), QStringLiteral("400") });
+    for (QProcess *copy : { &first, &second }) {
+        QVERIFY(copy->waitForFinished(120000));
+        QCOMPARE(copy->exitCode(), 0);
+    }
+    SetProgramFolder(m_dir->path());
+    QVERIFY(OpenDataFiles());
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "800" });
 }
 
 QTEST_MAIN(TestDataFiles)
