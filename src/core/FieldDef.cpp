@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -75,7 +76,8 @@ bool toCurrency(const QVariant &value, Currency *amount)
     return ok;
 }
 
-bool toDayNumber(const QVariant &value, qint64 *day)
+// A day number, or Null (`day` empty) for a date that is not one: no date is stored then.
+bool toDayNumber(const QVariant &value, std::optional<qint64> *day)
 {
     QDate date;
     if (value.typeId() == QMetaType::QDate)
@@ -84,11 +86,14 @@ bool toDayNumber(const QVariant &value, qint64 *day)
         date = value.toDateTime().date();
     else if (value.typeId() == QMetaType::QString)
         date = QDate::fromString(value.toString().trimmed(), QStringLiteral("dd.MM.yyyy"));
-    else
-        return toWholeNumber(value, day);
-    if (!date.isValid()) // no day number: the field stays empty
-        return false;
-    *day = DayNumber(date);
+    else {
+        qint64 number = 0;
+        if (!toWholeNumber(value, &number))
+            return false;
+        *day = number;
+        return true;
+    }
+    *day = date.isValid() ? std::optional<qint64>(DayNumber(date)) : std::nullopt;
     return true;
 }
 
@@ -223,10 +228,10 @@ bool FieldDef::toStorage(const QVariant &value, QVariant *stored) const
         return true;
     }
     case FieldType::Date: {
-        qint64 day = 0;
+        std::optional<qint64> day;
         if (!toDayNumber(value, &day))
             return false;
-        *stored = day;
+        *stored = day ? QVariant(*day) : QVariant();
         return true;
     }
     case FieldType::Binary:
@@ -234,9 +239,15 @@ bool FieldDef::toStorage(const QVariant &value, QVariant *stored) const
         *stored = value.toByteArray();
         return true;
     case FieldType::Text:
-    case FieldType::Memo:
-        *stored = value.userType() == qMetaTypeId<Currency>() ? value.value<Currency>().toString() : value.toString();
+    case FieldType::Memo: {
+        // Every character counts towards the size, and a NUL would hide what follows it.
+        const QString text
+            = value.userType() == qMetaTypeId<Currency>() ? value.value<Currency>().toString() : value.toString();
+        if (text.contains(QChar(0)) || (type == FieldType::Text && text.size() > size))
+            return false;
+        *stored = text;
         return true;
+    }
     }
     return false;
 }

@@ -2,10 +2,17 @@
 
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
+#include "money/RoundAmount.h"
 
 namespace {
 
 const QString otoIndex = QStringLiteral("oto");
+
+// Amounts are stored as they are shown and printed: rounded to the decimals of the parameters.
+QVariant storedAmount(Currency amount)
+{
+    return QVariant::fromValue(RoundAmount(amount));
+}
 
 void writeFields(Recordset &rs, const AccountPosting &p)
 {
@@ -15,7 +22,7 @@ void writeFields(Recordset &rs, const AccountPosting &p)
     FieldWrite(rs, QStringLiteral("evrak"), p.evrak);
     FieldWrite(rs, QStringLiteral("ack"), p.ack);
     FieldWrite(rs, QStringLiteral("ba"), p.ba);
-    FieldWrite(rs, QStringLiteral("tutar"), QVariant::fromValue(p.tutar));
+    FieldWrite(rs, QStringLiteral("tutar"), storedAmount(p.tutar));
 }
 
 void writeFields(Recordset &rs, const LedgerPosting &p)
@@ -26,10 +33,10 @@ void writeFields(Recordset &rs, const LedgerPosting &p)
     FieldWrite(rs, QStringLiteral("evrak"), p.evrak);
     FieldWrite(rs, QStringLiteral("cari"), p.cari);
     FieldWrite(rs, QStringLiteral("ack"), p.ack);
-    FieldWrite(rs, QStringLiteral("brut"), QVariant::fromValue(p.brut));
-    FieldWrite(rs, QStringLiteral("stopaj"), QVariant::fromValue(p.stopaj));
-    FieldWrite(rs, QStringLiteral("fon"), QVariant::fromValue(p.fon));
-    FieldWrite(rs, QStringLiteral("kdv"), QVariant::fromValue(p.kdv));
+    FieldWrite(rs, QStringLiteral("brut"), storedAmount(p.brut));
+    FieldWrite(rs, QStringLiteral("stopaj"), storedAmount(p.stopaj));
+    FieldWrite(rs, QStringLiteral("fon"), storedAmount(p.fon));
+    FieldWrite(rs, QStringLiteral("kdv"), storedAmount(p.kdv));
 }
 
 // The new row's oto is its row number in the engine, so no cursor move is needed to learn it

@@ -230,6 +230,7 @@ bool TableCursor::edit()
         return false;
     m_pending = Pending::Edit;
     m_pendingValues.clear();
+    m_refused = false;
     return true;
 }
 
@@ -237,6 +238,7 @@ bool TableCursor::addNew()
 {
     m_pending = Pending::AddNew;
     m_pendingValues.clear();
+    m_refused = false;
     return true;
 }
 
@@ -244,14 +246,20 @@ bool TableCursor::write(const QString &fieldName, const QVariant &value)
 {
     const int index = fieldIndex(fieldName);
     QVariant stored;
-    if (m_pending == Pending::None || index < 0 || field(index).autoNumber || !field(index).toStorage(value, &stored))
+    if (m_pending == Pending::None || index < 0 || field(index).autoNumber)
         return false;
+    if (!field(index).toStorage(value, &stored)) {
+        m_refused = true; // the row is not stored with a value other than the one given
+        return false;
+    }
     m_pendingValues[index] = stored;
     return true;
 }
 
 bool TableCursor::update()
 {
+    if (m_refused)
+        return false;
     const bool stored = m_pending == Pending::AddNew ? insertPending()
         : m_pending == Pending::Edit                 ? updatePending()
                                                      : false;

@@ -64,5 +64,6 @@ private:
     std::vector<QVariant> m_row;
     Pending m_pending = Pending::None;
     std::map<int, QVariant> m_pendingValues;
+    bool m_refused = false; // a value of the pending row could not be stored as given
     std::map<QString, std::unique_ptr<Statement>> m_statements;
 };

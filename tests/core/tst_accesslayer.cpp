@@ -153,6 +153,10 @@ void TestAccessLayer::writesOutsideTheTypeAreRefused_data()
     QTest::newRow("byte -1") << "tip" << QVariant(-1) << false;
     QTest::newRow("required key missing") << "kod" << QVariant() << false;
     QTest::newRow("key past its size") << "kod" << QVariant(QStringLiteral("123456789")) << false;
+    QTest::newRow("a NUL hiding 10,000 characters")
+        << "kod" << QVariant(QStringLiteral("K") + QChar(0) + QString(10000, u'x')) << false;
+    QTest::newRow("a NUL within the size") << "unv" << QVariant(QStringLiteral("a") + QChar(0) + u'b') << false;
+    QTest::newRow("a NUL at the end of a note") << "not1" << QVariant(QStringLiteral("a") + QChar(0)) << false;
 }
 
 void TestAccessLayer::writesOutsideTheTypeAreRefused()

@@ -55,6 +55,7 @@ private slots:
     void netFeeFillsTheGrossBack_data();
     void netFeeFillsTheGrossBack();
     void overwrittenKdvChangesTheTotal();
+    void netFirstReceiptStoresTheShownGross();
     void screenKeysWorkFromACheckBox_data();
     void screenKeysWorkFromACheckBox();
     void refusedPostingIsReported_data();
@@ -296,6 +297,22 @@ void TestReceiptScreen::overwrittenKdvChangesTheTotal()
         QStringList { "11000000" });
     QCOMPARE(QueryTexts(QStringLiteral("SELECT kdv || '' AS r FROM defter"), QStringLiteral("r")),
         QStringList { "1000000" });
+}
+
+// 780 net with withholding and levy is a gross of 1,114.2857…: the ledger keeps the 1,114.29 that
+// the screen shows and the receipt prints, so that receipts add up in the books as on paper.
+void TestReceiptScreen::netFirstReceiptStoresTheShownGross()
+{
+    chooseAccount();
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->setChecked(true);
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->setChecked(true);
+    typeInto(12, QStringLiteral("780"));
+    QCOMPARE(field(9)->Text(), QStringLiteral("1,114.29"));
+    AnswerPrinterSetup("Command5", this);
+    QTest::keyClick(field(12)->textBox(), Qt::Key_F5);
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT brut || '|' || stopaj || '|' || fon || '|' || kdv AS r FROM defter"),
+                 QStringLiteral("r")),
+        QStringList { "11142900|2228600|222900|2005700" });
 }
 
 void TestReceiptScreen::screenKeysWorkFromACheckBox_data()
