@@ -1,5 +1,6 @@
 #include "core/AccessLayer.h"
 
+#include "core/Backups.h"
 #include "core/Message.h"
 #include "core/QueryCursor.h"
 #include "core/Statement.h"
@@ -76,11 +77,13 @@ bool RsAddNew(Recordset &rs)
 
 bool RsUpdate(Recordset &rs)
 {
+    Backups::beforeChange();
     return rs.update();
 }
 
 bool RsDelete(Recordset &rs)
 {
+    Backups::beforeChange();
     return rs.remove();
 }
 
@@ -125,6 +128,7 @@ bool QueryOpen(Database &db, std::unique_ptr<Recordset> &rs, const QString &sql,
 
 bool SqlExecute(Database &db, const QString &sql, const QVariantList &values)
 {
+    Backups::beforeChange();
     Statement action(db.handle(), sql);
     return action.isValid() && action.bindAll(values) && action.execute();
 }

@@ -1,5 +1,6 @@
 #include "core/StartRoutine.h"
 
+#include "core/Backups.h"
 #include "core/DataFiles.h"
 #include "core/MainWindow.h"
 #include "core/Message.h"
@@ -8,8 +9,27 @@
 #include "core/SplashWindow.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 namespace {
+
+// Where the newest copy of the books is, when there is one.
+QString newestCopyText()
+{
+    const QString newest = Backups::newest();
+    return newest.isEmpty() ? QString()
+                            : QStringLiteral("\nEn yeni yedek: %1\nGeri yüklemek için README dosyasına bakınız.")
+                                  .arg(QDir::toNativeSeparators(newest));
+}
+
+// The books are missing but copies of them exist: a new, empty book only if the user says so.
+bool newBookWanted()
+{
+    if (Backups::newest().isEmpty())
+        return true;
+    return Message::question(QStringLiteral("Veri dosyası (xsmm.dat) bulunamadı.") + newestCopyText()
+        + QStringLiteral("\nYeni, boş bir defter açılsın mı?"));
+}
 
 // What the user is told when the books do not open.
 QString startFailureText(DataFileState state)
@@ -20,9 +40,10 @@ QString startFailureText(DataFileState state)
                               "O programı kapatıp Serbest Meslek'i yeniden başlatınız.");
     case DataFileState::Foreign:
         return QStringLiteral("Bu klasördeki xsmm.dat bu programın veri dosyası değil.\n"
-                              "Dosyaya hiçbir şey yazılmadı.");
+                              "Dosyaya hiçbir şey yazılmadı.")
+            + newestCopyText();
     case DataFileState::Damaged:
-        return QStringLiteral("Veri dosyası (xsmm.dat) bozulmuş.\nDosyaya hiçbir şey yazılmadı.");
+        return QStringLiteral("Veri dosyası (xsmm.dat) bozulmuş.\nDosyaya hiçbir şey yazılmadı.") + newestCopyText();
     default:
         return QStringLiteral("Dosyalar Yaratılamıyor...");
     }
@@ -44,6 +65,8 @@ bool StartRoutine::run(const QString &programFolder)
 
     DataFileState state = DataFileState::Failed;
     bool open = OpenDataFiles(&state);
+    if (state == DataFileState::Missing && !newBookWanted())
+        return false;
     if (!open && (state == DataFileState::Missing || state == DataFileState::Failed) && CreateDataFiles())
         open = OpenDataFiles(&state);
     if (!open) {
@@ -51,6 +74,7 @@ bool StartRoutine::run(const QString &programFolder)
         Message::exclamation(startFailureText(state));
         return false;
     }
+    Backups::make(*dataFiles().db);
     LoadParameters();
     return true;
 }

@@ -1,4 +1,6 @@
 #include "core/AccessLayer.h"
+#include "core/Backups.h"
+#include "core/Clock.h"
 #include "core/DataFiles.h"
 #include "core/Database.h"
 #include "core/Parameters.h"
@@ -65,6 +67,11 @@ private slots:
     void fileHeldByAnotherProgram();
     void killDuringPostingsLosesNoCommittedRow();
     void twoCopiesPostingAtOnceLoseNothing();
+    void copiesAtStartAndBeforeTheFirstChangeOfADay();
+    void missingBookWithCopiesAsksFirst_data();
+    void missingBookWithCopiesAsksFirst();
+    void oldCopiesAreThinnedOut_data();
+    void oldCopiesAreThinnedOut();
 
 private:
     bool makeFile(Found kind, const QString &path);
@@ -205,7 +212,12 @@ void TestDataFiles::fileThatIsNotOursIsLeftAlone()
     const QByteArray before = contents(path);
     StartRoutine start;
     QVERIFY(!start.run(m_dir->path()));
-    QCOMPARE(m_messages->texts(), QStringList { message });
+    const QString newest = Backups::newest(); // the files made by the program itself were copied
+    QCOMPARE(found == Found::ExtraColumn || found == Found::DamagedPage, !newest.isEmpty());
+    const QString copyLine = newest.isEmpty()
+        ? QString()
+        : QStringLiteral("\nEn yeni yedek: %1\nGeri yüklemek için README dosyasına bakınız.").arg(newest);
+    QCOMPARE(m_messages->texts(), QStringList { message + copyLine });
     QCOMPARE(contents(path), before);
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList { QStringLiteral("xsmm.dat") });
 }
@@ -275,7 +287,10 @@ void TestDataFiles::killsDuringTheFirstStartNeverBlockTheNext()
     QVERIFY(whole.waitForFinished());
     QCOMPARE(whole.exitCode(), 0);
     const int wholeRun = int(clock.elapsed());
-    QVERIFY(QFile::remove(dataFile()));
+    SetProgramFolder(m_dir->path());
+    const auto firstStartAgain
+        = [this] { return QFile::remove(dataFile()) && QDir(Backups::folder()).removeRecursively(); };
+    QVERIFY(firstStartAgain());
     QRandomGenerator random(20261123);
     int interrupted = 0;
     for (int kill = 0; kill < 40; ++kill) {
@@ -287,8 +302,9 @@ void TestDataFiles::killsDuringTheFirstStartNeverBlockTheNext()
         process.waitForFinished();
         if (!QFile::exists(dataFile()))
             ++interrupted;
-        QCOMPARE(startAndClose(), QStringList());
-        QVERIFY(QFile::remove(dataFile()));
+        const QStringList said = startAndClose();
+        QVERIFY2(said.isEmpty(), qPrintable(said.join(u'|')));
+        QVERIFY(firstStartAgain());
     }
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList());
     QVERIFY2(interrupted > 0, "no kill came before the book was whole");
@@ -385,7 +401,96 @@ void TestDataFiles::twoCopiesPostingAtOnceLoseNothing()
     }
     SetProgramFolder(m_dir->path());
     QVERIFY(OpenDataFiles());
-    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "800" });
+    QCOMPARE(
+        QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "800" });
+}
+
+// A copy at the start, none for further changes that day, one before the first change of the
+// next day; a copy put back in place of the books is opened with what it held.
+void TestDataFiles::copiesAtStartAndBeforeTheFirstChangeOfADay()
+{
+    SetToday(QDate(2026, 11, 23));
+    const auto copies = [] { return QDir(Backups::folder()).entryList({ QStringLiteral("*.dat") }, QDir::Files); };
+    StartRoutine start;
+    QVERIFY(start.run(m_dir->path()));
+    QCOMPARE(copies().size(), 1);
+    QVERIFY(copies().first().startsWith(QStringLiteral("xsmm-2026-11-23-")));
+    QVERIFY(AddAccountPosting({ QStringLiteral("K1"), QDate(2026, 11, 23), 1, {}, {}, 0, Currency::fromUnits(5) }));
+    QCOMPARE(copies().size(), 1);
+    SetToday(QDate(2026, 11, 24));
+    QVERIFY(AddAccountPosting({ QStringLiteral("K1"), QDate(2026, 11, 24), 1, {}, {}, 0, Currency::fromUnits(7) }));
+    QVERIFY(AddAccountPosting({ QStringLiteral("K1"), QDate(2026, 11, 24), 1, {}, {}, 0, Currency::fromUnits(9) }));
+    SetToday(QDate());
+    QCOMPARE(copies().size(), 2);
+    QVERIFY(copies().last().startsWith(QStringLiteral("xsmm-2026-11-24-")));
+    const QString newest = Backups::newest();
+    QCOMPARE(newest, QDir(Backups::folder()).filePath(copies().last()));
+
+    // Putting the copy back: the books as they were before the 24th's first change.
+    CloseDataFiles();
+    QVERIFY(QFile::remove(dataFile()));
+    QVERIFY(QFile::copy(newest, dataFile()));
+    QCOMPARE(startAndClose(), QStringList());
+    QVERIFY(OpenDataFiles());
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || '' AS t FROM carhar"), QStringLiteral("t")),
+        QStringList { "50000" });
+    QCOMPARE(dataFiles().db->texts(QStringLiteral("PRAGMA integrity_check")), QStringList { QStringLiteral("ok") });
+}
+
+void TestDataFiles::missingBookWithCopiesAsksFirst_data()
+{
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("no: nothing is made") << false;
+    QTest::newRow("yes: a new book") << true;
+}
+
+// The books have gone but copies of them are there: the start names the newest copy and makes a
+// new, empty book only when the user wants one.
+void TestDataFiles::missingBookWithCopiesAsksFirst()
+{
+    QFETCH(bool, answer);
+    QCOMPARE(startAndClose(), QStringList());
+    QVERIFY(QFile::remove(dataFile()));
+    m_messages->answerNext(answer);
+    const QStringList messages = startAndClose();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY(messages.first().startsWith(
+        QStringLiteral("Veri dosyası (xsmm.dat) bulunamadı.\nEn yeni yedek: ") + Backups::folder()));
+    QVERIFY(messages.first().endsWith(QStringLiteral("Yeni, boş bir defter açılsın mı?")));
+    QCOMPARE(m_messages->entries().first().kind, Message::Kind::Question);
+    QCOMPARE(QFile::exists(dataFile()), answer);
+}
+
+void TestDataFiles::oldCopiesAreThinnedOut_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QStringList>("removed");
+    QStringList days;
+    for (int day = 1; day <= 14; ++day)
+        days << QStringLiteral("xsmm-2026-11-%1-090000.dat").arg(day, 2, 10, QLatin1Char('0'));
+    QTest::newRow("fourteen days of one month: the four oldest go") << days << QStringList { days.mid(0, 4) };
+    QStringList months;
+    for (int month = 0; month < 15; ++month) {
+        const QDate first = QDate(2025, 8, 1).addMonths(month);
+        months << QStringLiteral("xsmm-%1-100000.dat").arg(first.toString(QStringLiteral("yyyy-MM-dd")))
+               << QStringLiteral("xsmm-%1-180000.dat").arg(first.toString(QStringLiteral("yyyy-MM-dd")));
+    }
+    // Aug 2025 to Oct 2026, two a month: the ten newest (Jun 2026 on) and the later copy of each
+    // month from Dec 2025 stay; the rest of the older months go.
+    QStringList removed;
+    for (int month = 0; month < 15; ++month)
+        if (month < 4)
+            removed << months.at(2 * month) << months.at(2 * month + 1);
+        else if (month < 10)
+            removed << months.at(2 * month);
+    QTest::newRow("fifteen months") << months << removed;
+}
+
+void TestDataFiles::oldCopiesAreThinnedOut()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QStringList, removed);
+    QCOMPARE(Backups::surplus(names, QDate(2026, 11, 20)), removed);
 }
 
 QTEST_MAIN(TestDataFiles)
