@@ -114,10 +114,8 @@ void AccountTransactionsScreen::defineColumns()
     grid->Add(QStringLiteral("a"), QStringLiteral("ack"), QStringLiteral("Açıklama"), 200, 40, 0, 0, 0);
     grid->Add(QStringLiteral("a"), QStringLiteral("islem"), QStringLiteral("İşlem"), 90, 50, 6, 0, 0);
     grid->Add(QStringLiteral("s"), QStringLiteral("ba"), QStringLiteral("B/A"), 35, 1, 6, 0, 0);
-    grid->Add(
-        QStringLiteral("n"), QStringLiteral("tutar"), QStringLiteral("Tutar"), 110, 999999999999999.0, 2, onda, 3);
-    grid->Add(
-        QStringLiteral("b"), QStringLiteral("bakiye"), QStringLiteral("Bakiye"), 110, 999999999999999.0, 2, onda, 3);
+    grid->Add(QStringLiteral("n"), QStringLiteral("tutar"), QStringLiteral("Tutar"), 110, MaxAmountEntry, 2, onda, 3);
+    grid->Add(QStringLiteral("b"), QStringLiteral("bakiye"), QStringLiteral("Bakiye"), 110, MaxAmountEntry, 2, onda, 3);
     grid->Add(QStringLiteral("m"), QStringLiteral("oto"), QString(), 0, 0, 0, 0, 0);
 }
 

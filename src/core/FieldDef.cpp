@@ -212,7 +212,7 @@ bool FieldDef::toStorage(const QVariant &value, QVariant *stored) const
     }
     case FieldType::Currency: {
         Currency amount;
-        if (!toCurrency(value, &amount))
+        if (!toCurrency(value, &amount) || !amount.isValid())
             return false;
         *stored = amount.raw();
         return true;

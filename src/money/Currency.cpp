@@ -22,7 +22,7 @@ Currency Currency::fromDouble(double value, bool *ok)
     const bool fits = std::isfinite(scaled) && std::fabs(scaled) < 9.2e18;
     if (ok)
         *ok = fits;
-    return fits ? fromRaw(qint64(scaled)) : Currency();
+    return fits ? fromRaw(qint64(scaled)) : overflow();
 }
 
 Currency Currency::fromString(QStringView text, bool *ok)
@@ -90,6 +90,8 @@ Currency Currency::fromString(QStringView text, bool *ok)
 
 QString Currency::toString() const
 {
+    if (!isValid())
+        return QStringLiteral("Taşma");
     const bool negative = m_raw < 0;
     const quint64 magnitude = negative ? 0 - quint64(m_raw) : quint64(m_raw);
     QString text = QString::number(magnitude / Scale);

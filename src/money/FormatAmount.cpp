@@ -109,5 +109,7 @@ QString FormatNumber(const QString &numberText, int decimals, long groupSize)
 
 QString FormatAmount(Currency amount, long groupSize)
 {
+    if (!amount.isValid())
+        return amount.toString();
     return FormatAmount(amount.toString(), groupSize);
 }

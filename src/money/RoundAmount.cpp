@@ -6,6 +6,8 @@
 
 Currency RoundAmount(Currency amount)
 {
+    if (!amount.isValid())
+        return amount;
     const int decimals = qBound(0, amountConventions().tlonda, 4);
     qint64 step = 1;
     for (int i = decimals; i < 4; ++i)

@@ -61,7 +61,7 @@ XText *ReceiptFormScreen::addField(const QString &label, int format, double limi
 
 XText *ReceiptFormScreen::addAmountField(const QString &label, int grup)
 {
-    XText *amount = addField(label, XText::NumberFormat, 1e17);
+    XText *amount = addField(label, XText::NumberFormat, MaxAmountEntry);
     amount->setOnda(amountConventions().tlonda);
     amount->setGrup(grup);
     return amount;

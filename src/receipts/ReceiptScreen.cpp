@@ -135,6 +135,10 @@ void ReceiptScreen::accountFilled()
 
 void ReceiptScreen::save()
 {
+    if (!m_total.isValid()) {
+        Message::exclamation(QStringLiteral("Tutar çok büyük; makbuz kaydedilmedi."));
+        return;
+    }
     if (m_total <= Currency())
         return;
     GenelTxtSet(QStringLiteral("lastack"), field(Description)->Text());

@@ -156,6 +156,9 @@ void TestAccessLayer::writesOutsideTheTypeAreRefused_data()
     QTest::newRow("a NUL hiding 10,000 characters")
         << "kod" << QVariant(QStringLiteral("K") + QChar(0) + QString(10000, u'x')) << false;
     QTest::newRow("a NUL within the size") << "unv" << QVariant(QStringLiteral("a") + QChar(0) + u'b') << false;
+    QTest::newRow("the largest amount") << "ucret" << QVariant::fromValue(Currency::fromRaw(9223372036854775807))
+                                        << true;
+    QTest::newRow("an amount that overflowed") << "ucret" << QVariant::fromValue(Currency::overflow()) << false;
     QTest::newRow("a NUL at the end of a note") << "not1" << QVariant(QStringLiteral("a") + QChar(0)) << false;
 }
 

@@ -1,5 +1,6 @@
 #include "money/Currency.h"
 #include "money/DayNumber.h"
+#include "money/FormatAmount.h"
 
 #include <QtTest>
 
@@ -13,6 +14,8 @@ private slots:
     void refusesWhatIsNoNumber();
     void fromDouble_data();
     void fromDouble();
+    void sumsThatCannotBeHeldOverflow_data();
+    void sumsThatCannotBeHeldOverflow();
     void toString_data();
     void toString();
     void dayNumbers_data();
@@ -70,6 +73,38 @@ void TestCurrency::fromDouble_data()
     QTest::newRow("more decimals") << 1114.285714 << qint64(11142857);
     QTest::newRow("tie to even") << 1.03125 << qint64(10312);
     QTest::newRow("negative tie to even") << -1.03125 << qint64(-10312);
+    QTest::newRow("too large") << 1e15 << Currency::overflow().raw();
+    QTest::newRow("not a number") << std::nan("") << Currency::overflow().raw();
+}
+
+void TestCurrency::sumsThatCannotBeHeldOverflow_data()
+{
+    const qint64 max = std::numeric_limits<qint64>::max();
+    QTest::addColumn<Currency>("result");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("largest") << Currency::fromRaw(max - 1) + Currency::fromRaw(1) << "922337203685477.5807";
+    QTest::newRow("past the largest") << Currency::fromRaw(max) + Currency::fromRaw(1) << "Taşma";
+    QTest::newRow("below the smallest") << Currency::fromRaw(-max) - Currency::fromRaw(1) << "Taşma";
+    QTest::newRow("gross and VAT of 900 trillion")
+        << Currency::fromUnits(900000000000000) + Currency::fromUnits(162000000000000) << "Taşma";
+    QTest::newRow("an overflow stays one")
+        << (Currency::fromRaw(max) + Currency::fromRaw(1)) - Currency::fromUnits(5) << "Taşma";
+    QTest::newRow("negated") << -Currency::overflow() << "Taşma";
+    QTest::newRow("its size") << Currency::overflow().magnitude() << "Taşma";
+    Currency running = Currency::fromRaw(max - 10);
+    running += Currency::fromRaw(20);
+    running -= Currency::fromRaw(20);
+    QTest::newRow("a running total") << running << "Taşma";
+}
+
+void TestCurrency::sumsThatCannotBeHeldOverflow()
+{
+    QFETCH(Currency, result);
+    QFETCH(QString, text);
+    QCOMPARE(result.toString(), text);
+    QCOMPARE(result.isValid(), text != QStringLiteral("Taşma"));
+    if (!result.isValid())
+        QCOMPARE(FormatAmount(result, 3), text);
 }
 
 void TestCurrency::fromDouble()
@@ -87,7 +122,8 @@ void TestCurrency::toString_data()
     QTest::newRow("whole") << qint64(120000) << "12";
     QTest::newRow("trailing zeros dropped") << qint64(12345000) << "1234.5";
     QTest::newRow("small negative") << qint64(-500) << "-0.05";
-    QTest::newRow("smallest") << std::numeric_limits<qint64>::min() << "-922337203685477.5808";
+    QTest::newRow("smallest") << std::numeric_limits<qint64>::min() + 1 << "-922337203685477.5807";
+    QTest::newRow("the overflow mark") << std::numeric_limits<qint64>::min() << "Taşma";
 }
 
 void TestCurrency::toString()

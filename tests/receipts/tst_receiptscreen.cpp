@@ -56,6 +56,7 @@ private slots:
     void netFeeFillsTheGrossBack();
     void overwrittenKdvChangesTheTotal();
     void netFirstReceiptStoresTheShownGross();
+    void amountBeyondTheMoneyTypeIsRefused();
     void screenKeysWorkFromACheckBox_data();
     void screenKeysWorkFromACheckBox();
     void refusedPostingIsReported_data();
@@ -313,6 +314,25 @@ void TestReceiptScreen::netFirstReceiptStoresTheShownGross()
     QCOMPARE(QueryTexts(QStringLiteral("SELECT brut || '|' || stopaj || '|' || fon || '|' || kdv AS r FROM defter"),
                  QStringLiteral("r")),
         QStringList { "11142900|2228600|222900|2005700" });
+}
+
+// The gross field takes no more than a Currency holds; a gross whose VAT makes the total too large
+// shows "Taşma" and is refused, nothing is posted.
+void TestReceiptScreen::amountBeyondTheMoneyTypeIsRefused()
+{
+    typeInto(2, QStringLiteral("K1"));
+    typeInto(9, QStringLiteral("99999999999999999"));
+    QCOMPARE(field(9)->amount(), Currency::fromUnits(99999999999999)); // the last digits did not fit
+    field(8)->setFocus(); // coming back into the field, typing replaces its value
+    typeInto(9, QStringLiteral("900000000000000"));
+    QCOMPARE(field(9)->amount(), Currency::fromUnits(900000000000000));
+    QCOMPARE(totalText(), QStringLiteral("Taşma"));
+    QTest::keyClick(field(9)->textBox(), Qt::Key_F5);
+    QCOMPARE(m_kit->messages().texts(), QStringList { QStringLiteral("Tutar çok büyük; makbuz kaydedilmedi.") });
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT (SELECT count(*) FROM carhar) + (SELECT count(*) FROM defter) AS n"),
+                 QStringLiteral("n")),
+        QStringList { "0" });
+    QCOMPARE(GenelCurrenGet(QStringLiteral("serino")), Currency());
 }
 
 void TestReceiptScreen::screenKeysWorkFromACheckBox_data()
