@@ -145,16 +145,23 @@ void removeUnfinishedBuilds()
         folder.remove(name);
 }
 
-// Makes the five tables in a new, empty file; true when all of them exist.
+void reportNoFile()
+{
+    Message::exclamation(QStringLiteral("\nSql Dosyası Yaratılamadı."));
+}
+
+// Makes the five tables in a new, empty file; true when all of them exist. Every failure has
+// been reported.
 bool buildSchema(const QString &path)
 {
     QFile empty(path);
-    if (!empty.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return false;
+    const bool made = empty.open(QIODevice::WriteOnly | QIODevice::NewOnly);
     empty.close();
-    std::unique_ptr<Database> db = Database::open(path);
-    if (!db)
+    std::unique_ptr<Database> db = made ? Database::open(path) : nullptr;
+    if (!db) {
+        reportNoFile();
         return false;
+    }
     for (const TableSpec &table : schema())
         if (!createTable(*db, table))
             return false;
@@ -270,19 +277,22 @@ bool CreateDataFiles()
 {
     CloseDataFiles();
     const QString path = DataFilePath();
-    const QString building = QStringLiteral("%1%2%3").arg(path, buildingMark).arg(QCoreApplication::applicationPid());
-    removeUnfinishedBuilds();
-    const bool built = !QFileInfo::exists(path) && buildSchema(building);
-    if (!built || !QFile::rename(building, path)) {
-        QFile::remove(building);
-        QFile::remove(building + QStringLiteral("-journal"));
-        if (!built && !QFileInfo::exists(path))
-            return false; // the table that failed has been reported
-        Message::exclamation(QStringLiteral("\nSql Dosyası Yaratılamadı."));
+    if (QFileInfo::exists(path)) {
+        reportNoFile();
         return false;
     }
-    syncFolder(ProgramFolder());
-    return true;
+    removeUnfinishedBuilds();
+    const QString building = QStringLiteral("%1%2%3").arg(path, buildingMark).arg(QCoreApplication::applicationPid());
+    if (buildSchema(building)) {
+        if (QFile::rename(building, path)) { // never over a file that appeared meanwhile
+            syncFolder(ProgramFolder());
+            return true;
+        }
+        reportNoFile();
+    }
+    QFile::remove(building);
+    QFile::remove(building + QStringLiteral("-journal"));
+    return false;
 }
 
 void CloseDataFiles()
