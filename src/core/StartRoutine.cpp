@@ -25,10 +25,10 @@ QString newestCopyText()
 // The books are missing but copies of them exist: a new, empty book only if the user says so.
 bool newBookWanted()
 {
-    if (Backups::newest().isEmpty())
-        return true;
-    return Message::question(QStringLiteral("Veri dosyası (xsmm.dat) bulunamadı.") + newestCopyText()
-        + QStringLiteral("\nYeni, boş bir defter açılsın mı?"));
+    const QString copy = newestCopyText();
+    return copy.isEmpty()
+        || Message::question(QStringLiteral("Veri dosyası (xsmm.dat) bulunamadı.") + copy
+            + QStringLiteral("\nYeni, boş bir defter açılsın mı?"));
 }
 
 // What the user is told when the books do not open.
