@@ -25,18 +25,19 @@ constexpr int totalRow = 13;
 MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
     : ListWindow(QStringLiteral("Form9"), QStringLiteral("Kdv, Stopaj Raporu"), parent)
 {
-    list()->setScroll(0);
+    DcList *grid = list();
+    grid->setScroll(0);
     const int onda = amountConventions().tlonda;
     const double limit = 999999999999.0;
-    list()->Add(QStringLiteral("a"), QStringLiteral("donem"), QStringLiteral("Dönem"), 80, 12, 0, 0, 0);
-    list()->Add(QStringLiteral("n"), QStringLiteral("indmatrah"), QStringLiteral("İnd.Matrah"), 110, limit, 0, onda, 3);
-    list()->Add(QStringLiteral("n"), QStringLiteral("indkdv"), QStringLiteral("İnd.KDV"), 110, limit, 0, onda, 3);
-    list()->Add(QStringLiteral("n"), QStringLiteral("hesmatrah"), QStringLiteral("Hes.Matrah"), 110, limit, 0, onda, 3);
-    list()->Add(QStringLiteral("n"), QStringLiteral("heskdv"), QStringLiteral("Hes.KDV"), 110, limit, 0, onda, 3);
-    list()->Add(QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, limit, 0, onda, 3);
-    list()->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, limit, 0, onda, 3);
-    const int rowHeight = list()->view()->verticalHeader()->defaultSectionSize();
-    list()->setMinimumSize(80 + 6 * 110 + 4, (totalRow + 2) * rowHeight + 8);
+    grid->Add(QStringLiteral("a"), QStringLiteral("donem"), QStringLiteral("Dönem"), 80, 12, 0, 0, 0);
+    grid->Add(QStringLiteral("n"), QStringLiteral("indmatrah"), QStringLiteral("İnd.Matrah"), 110, limit, 0, onda, 3);
+    grid->Add(QStringLiteral("n"), QStringLiteral("indkdv"), QStringLiteral("İnd.KDV"), 110, limit, 0, onda, 3);
+    grid->Add(QStringLiteral("n"), QStringLiteral("hesmatrah"), QStringLiteral("Hes.Matrah"), 110, limit, 0, onda, 3);
+    grid->Add(QStringLiteral("n"), QStringLiteral("heskdv"), QStringLiteral("Hes.KDV"), 110, limit, 0, onda, 3);
+    grid->Add(QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, limit, 0, onda, 3);
+    grid->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, limit, 0, onda, 3);
+    const int rowHeight = grid->view()->verticalHeader()->defaultSectionSize();
+    grid->setMinimumSize(80 + 6 * 110 + 4, (totalRow + 2) * rowHeight + 8);
     compute();
 }
 
@@ -45,9 +46,10 @@ MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
 // have no month and stay out.
 void MonthlyReportScreen::compute()
 {
-    list()->Clear();
+    DcList *grid = list();
+    grid->Clear();
     for (int row = 0; row <= totalRow; ++row)
-        list()->setCaption(list()->CreateNewCaption(), Donem,
+        grid->setCaption(grid->CreateNewCaption(), Donem,
             row < 12              ? QString::fromUtf16(months[row])
                 : row == totalRow ? QStringLiteral("TOPLAM")
                                   : QString());
@@ -77,9 +79,9 @@ void MonthlyReportScreen::compute()
     std::array<Currency, 7> total {};
     for (int m = 0; m < 12; ++m)
         for (int c = IndMatrah; c <= Fon; ++c) {
-            list()->setCaption(m, c, month[size_t(m)][size_t(c)].toString());
+            grid->setCaption(m, c, month[size_t(m)][size_t(c)].toString());
             total[size_t(c)] += month[size_t(m)][size_t(c)];
         }
     for (int c = IndMatrah; c <= Fon; ++c)
-        list()->setCaption(totalRow, c, total[size_t(c)].toString());
+        grid->setCaption(totalRow, c, total[size_t(c)].toString());
 }
