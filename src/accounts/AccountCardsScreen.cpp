@@ -8,6 +8,7 @@
 #include "core/DataFiles.h"
 #include "core/Message.h"
 #include "core/ShrinkEffect.h"
+#include "core/TurkishText.h"
 #include "money/AmountConventions.h"
 
 #include <QGridLayout>
@@ -290,7 +291,9 @@ void AccountCardsScreen::remove()
         Message::exclamation(QStringLiteral("Kart Silinemedi."));
         return;
     }
-    SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM carhar WHERE kod = ?1"), { code });
+    SqlExecute(*dataFiles().db,
+        QStringLiteral("DELETE FROM carhar WHERE %1").arg(AnySpelling(QStringLiteral("kod"), 1)),
+        { AnySpellingValue(code) });
     ShrinkEffect(false);
     clearCard();
     m_fields[0]->setText(QString());

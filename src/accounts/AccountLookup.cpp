@@ -115,8 +115,9 @@ AccountLookup::~AccountLookup()
 void AccountLookup::search()
 {
     const bool byCode = !m_code->Text().isEmpty();
-    const QString sql = byCode ? QStringLiteral("SELECT kod, unv FROM carkart WHERE startsWith(kod, ?1) ORDER BY kod")
-                               : QStringLiteral("SELECT kod, unv FROM carkart WHERE startsWith(unv, ?1) ORDER BY unv");
+    const QString sql = byCode
+        ? QStringLiteral("SELECT kod, unv FROM carkart WHERE startsWith(kod, ?1) ORDER BY kod COLLATE TR")
+        : QStringLiteral("SELECT kod, unv FROM carkart WHERE startsWith(unv, ?1) ORDER BY unv COLLATE TR");
     std::unique_ptr<Recordset> rows;
     const bool found = QueryOpen(*dataFiles().db, rows, sql, { byCode ? m_code->Text() : m_title->Text() });
     m_list->Clear();

@@ -67,8 +67,8 @@ void AccountRangeScreen::fillCodesFromCards()
 {
     std::unique_ptr<Recordset> ends;
     if (!QueryOpen(*dataFiles().db, ends,
-            QStringLiteral("SELECT (SELECT kod FROM carkart ORDER BY kod LIMIT 1) AS ilk, "
-                           "(SELECT kod FROM carkart ORDER BY kod DESC LIMIT 1) AS son")))
+            QStringLiteral("SELECT (SELECT kod FROM carkart ORDER BY kod COLLATE TR LIMIT 1) AS ilk, "
+                           "(SELECT kod FROM carkart ORDER BY kod COLLATE TR DESC LIMIT 1) AS son")))
         return;
     m_fields[FirstCode]->setText(FieldRead(*ends, QStringLiteral("ilk")).toString());
     m_fields[LastCode]->setText(FieldRead(*ends, QStringLiteral("son")).toString());
@@ -77,7 +77,14 @@ void AccountRangeScreen::fillCodesFromCards()
 QString AccountRangeScreen::rangeCondition(QVariantList &values) const
 {
     values << m_fields[FirstCode]->Text() << m_fields[LastCode]->Text();
-    const QString codes = QStringLiteral("c.kod >= ?%1 AND c.kod <= ?%2").arg(values.size() - 1).arg(values.size());
+    // The codes in the range are the Turkish order's; the index still answers, read for the codes
+    // that occur (one look-up per distinct code), then for the rows of those in the range.
+    const QString codes = QStringLiteral(
+        "c.kod IN (WITH RECURSIVE kodlar(kod) AS (SELECT min(kod) FROM carhar UNION ALL "
+        "SELECT (SELECT min(kod) FROM carhar WHERE kod > kodlar.kod) FROM kodlar "
+        "WHERE kodlar.kod IS NOT NULL) SELECT kod FROM kodlar WHERE kod COLLATE TR BETWEEN ?%1 AND ?%2)")
+                              .arg(values.size() - 1)
+                              .arg(values.size());
     return codes + DateBounds(QStringLiteral("c.tarih"), m_fields[FirstDate], m_fields[LastDate], values);
 }
 

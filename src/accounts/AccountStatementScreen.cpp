@@ -7,6 +7,7 @@
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "core/OpenInMain.h"
+#include "core/TurkishText.h"
 #include "money/AmountConventions.h"
 #include "money/DayNumber.h"
 #include "money/FormatAmount.h"
@@ -44,7 +45,7 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
     QVariantList values;
     const QString sql = QStringLiteral("SELECT c.kod AS kod, c.tarih AS tarih, c.islem AS islem, c.evrak AS evrak, "
                                        "c.ack AS ack, c.ba AS ba, c.tutar AS tutar FROM carhar c WHERE %1 "
-                                       "ORDER BY c.kod, c.tarih, c.islem, c.oto")
+                                       "ORDER BY c.kod COLLATE TR, c.tarih, c.islem, c.oto")
                             .arg(rangeCondition(values));
     std::unique_ptr<Recordset> rows;
     if (!QueryOpen(*dataFiles().db, rows, sql, values))
@@ -60,15 +61,17 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
     };
     Recordset &cards = *dataFiles().carkart;
     for (; !RsEof(*rows); RsNext(*rows)) {
-        const QString kod = FieldRead(*rows, QStringLiteral("kod")).toString();
+        // The spellings of one code ("ışık", "IŞIK") are one account, headed by its card's code.
+        const QString kod = TurkishUpper(FieldRead(*rows, QStringLiteral("kod")).toString());
         if (kod != walked) {
             closeAccount();
             walked = kod;
             debit = credit = Currency();
             shown = CariExists(kod) && admits(FieldRead(cards, QStringLiteral("tip")).toInt());
             if (shown)
-                emitLine(
-                    Line::Heading, { kod, QString(), QString(), FieldRead(cards, QStringLiteral("unv")).toString() });
+                emitLine(Line::Heading,
+                    { FieldRead(cards, QStringLiteral("kod")), QString(), QString(),
+                        FieldRead(cards, QStringLiteral("unv")).toString() });
         }
         if (!shown)
             continue;

@@ -9,6 +9,7 @@
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "core/Message.h"
+#include "core/TurkishText.h"
 #include "money/AmountConventions.h"
 #include "money/DayNumber.h"
 
@@ -162,7 +163,9 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
     grid->Clear();
     std::unique_ptr<Recordset> rows;
     if (QueryOpen(*dataFiles().db, rows,
-            QStringLiteral("SELECT * FROM carhar WHERE kod = ?1 ORDER BY tarih, islem, ba, oto"), { code })) {
+            QStringLiteral("SELECT * FROM carhar WHERE %1 ORDER BY tarih, islem, ba, oto")
+                .arg(AnySpelling(QStringLiteral("kod"), 1)),
+            { AnySpellingValue(code) })) {
         for (; !RsEof(*rows); RsNext(*rows)) {
             const int row = grid->CreateNewCaption();
             if (row < 0)

@@ -9,6 +9,7 @@
 #include "core/Clock.h"
 #include "core/DataFiles.h"
 #include "core/Message.h"
+#include "core/TurkishText.h"
 #include "money/AmountConventions.h"
 #include "money/DayNumber.h"
 #include "money/FormatAmount.h"
@@ -247,7 +248,9 @@ void CashBookScreen::showAccount(const QString &code)
     m_accountTitle->setValue(FieldRead(*dataFiles().carkart, QStringLiteral("unv")).toString());
     std::unique_ptr<Recordset> balance;
     if (QueryOpen(*dataFiles().db, balance,
-            QStringLiteral("SELECT sum(tutar * (-2 * ba + 1)) AS baki FROM carhar WHERE kod = ?1"), { code }))
+            QStringLiteral("SELECT sum(tutar * (-2 * ba + 1)) AS baki FROM carhar WHERE %1")
+                .arg(AnySpelling(QStringLiteral("kod"), 1)),
+            { AnySpellingValue(code) }))
         m_accountBalance->setValue(FormatAmount(AmountSumRead(*balance, QStringLiteral("baki"))));
 }
 

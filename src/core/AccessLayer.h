@@ -3,8 +3,9 @@
 // The only way from the screens to the data file. Every operation traps the engine's errors
 // and answers with its documented result; only QueryOpen shows a message of its own.
 //
-// SQL texts are SQLite's dialect with the program's additions: text compares in Turkish order
-// (collation TR, declared on every text field), year(day number), dates as whole day numbers.
+// SQL texts are SQLite's dialect with the program's additions (see SqlFunctions.h): the stored
+// text compares as plain bytes, so a text compared in Turkish order says COLLATE TR, and an
+// indexed account code is sought in all its spellings (TurkishText.h); dates as whole day numbers.
 // A true comparison is 1, not -1. Values typed by the user are never spliced into SQL: they go
 // in as the values of ?1, ?2 … placeholders.
 

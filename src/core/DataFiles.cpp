@@ -1,6 +1,7 @@
 #include "core/DataFiles.h"
 
 #include "core/AccessLayer.h"
+#include "core/Backups.h"
 #include "core/Message.h"
 
 #include <QCoreApplication>
@@ -95,19 +96,28 @@ QString &programFolder()
     return folder;
 }
 
-bool createTable(Database &db, const TableSpec &spec)
+// The table's definition, or nullptr when it cannot be begun.
+std::unique_ptr<TableDef> defineTable(Database &db, const TableSpec &spec)
 {
     std::unique_ptr<TableDef> table;
-    if (!TableCreate(db, table, QString::fromUtf16(spec.name))) {
-        Message::exclamation(QString::fromUtf16(spec.createCaption) + QStringLiteral("\nSql Tablosu Yaratılamadı."));
-        return false;
-    }
+    if (!TableCreate(db, table, QString::fromUtf16(spec.name)))
+        return nullptr;
     for (const FieldSpec &field : spec.fields)
         FieldCreate(*table, QString::fromUtf16(field.name), int(field.type), field.required, true, field.attributes,
             field.size);
     for (const IndexSpec &index : spec.indexes)
         IndexCreate(*table, QString::fromUtf16(index.name), QString::fromUtf16(index.fields), index.unique,
             index.primary, false, index.required);
+    return table;
+}
+
+bool createTable(Database &db, const TableSpec &spec)
+{
+    const std::unique_ptr<TableDef> table = defineTable(db, spec);
+    if (!table) {
+        Message::exclamation(QString::fromUtf16(spec.createCaption) + QStringLiteral("\nSql Tablosu Yaratılamadı."));
+        return false;
+    }
     if (!TableAppend(db, *table)) {
         Message::exclamation(QString::fromUtf16(spec.appendCaption) + QStringLiteral("\nSql Tablosu eklenemedi."));
         return false;
@@ -132,6 +142,63 @@ bool addMissingIndexes(Database &db)
                 return false;
         }
     return true;
+}
+
+// Books made while the text columns declared the program's own collation, which no other tool
+// knows: their tables are made anew with plain text columns. Every row keeps its values and its
+// record number, and the next record number stays where it was.
+QStringList tablesWithOwnCollation(Database &db)
+{
+    QStringList tables;
+    for (const TableSpec &table : schema()) {
+        const QString name = QString::fromUtf16(table.name);
+        const QStringList sql
+            = db.texts(QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'table' AND name = '%1'").arg(name));
+        if (!sql.isEmpty() && sql.first().contains(QStringLiteral("COLLATE TR")))
+            tables << name;
+    }
+    return tables;
+}
+
+QStringList rebuildSteps(Database &db, const TableSpec &spec)
+{
+    const QString name = QString::fromUtf16(spec.name);
+    const QString old = name + QStringLiteral("_eski");
+    QStringList columns;
+    for (const FieldSpec &field : spec.fields)
+        columns << u'"' + QString::fromUtf16(field.name) + u'"';
+    QStringList steps { QStringLiteral("ALTER TABLE \"%1\" RENAME TO \"%2\"").arg(name, old) };
+    for (const QString &index : db.texts(
+             QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' AND tbl_name = '%1' AND sql NOT NULL")
+                 .arg(name)))
+        steps << QStringLiteral("DROP INDEX \"%1\"").arg(index);
+    steps << defineTable(db, spec)->creationSql();
+    steps << QStringLiteral("INSERT INTO \"%1\" (%3) SELECT %3 FROM \"%2\"").arg(name, old, columns.join(u','));
+    // The renamed table took its counter along; the new table gets it back.
+    steps << QStringLiteral("DELETE FROM sqlite_sequence WHERE name = '%1'").arg(name);
+    steps << QStringLiteral("UPDATE sqlite_sequence SET name = '%1' WHERE name = '%2'").arg(name, old);
+    steps << QStringLiteral("DROP TABLE \"%1\"").arg(old);
+    return steps;
+}
+
+// All tables in one transaction after a copy of the books; on any failure the file stays as it
+// was (the program reads both forms).
+void dropOwnCollation(Database &db)
+{
+    const QStringList tables = tablesWithOwnCollation(db);
+    if (tables.isEmpty() || !Backups::make(db) || !db.run(QStringLiteral("BEGIN IMMEDIATE")))
+        return;
+    QStringList steps;
+    for (const TableSpec &table : schema())
+        if (tables.contains(QString::fromUtf16(table.name)))
+            steps << rebuildSteps(db, table);
+    for (const QString &step : std::as_const(steps))
+        if (!db.run(step)) {
+            db.run(QStringLiteral("ROLLBACK"));
+            return;
+        }
+    if (!db.run(QStringLiteral("COMMIT")))
+        db.run(QStringLiteral("ROLLBACK"));
 }
 
 // "xsmm.dat.yeni-<process>": a new file while its tables are being made.
@@ -229,6 +296,7 @@ DataFileState openChecked(DataFiles &files)
         return stateOf(error);
     if (check != QStringList { QStringLiteral("ok") })
         return DataFileState::Damaged;
+    dropOwnCollation(*files.db);
     const bool open = RsOpen(*files.db, files.genel, QStringLiteral("genel"))
         && RsOpen(*files.db, files.carkart, QStringLiteral("carkart"))
         && RsOpen(*files.db, files.carhar, QStringLiteral("carhar"))

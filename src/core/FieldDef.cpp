@@ -135,10 +135,10 @@ QString FieldDef::columnDeclaration() const
         declaration += QStringLiteral("BLOB");
         break;
     case FieldType::Text:
-        declaration += QStringLiteral("TEXT(%1) COLLATE TR CHECK(length(%2) <= %1)").arg(size).arg(column);
+        declaration += QStringLiteral("TEXT(%1) CHECK(length(%2) <= %1)").arg(size).arg(column);
         break;
     case FieldType::Memo:
-        declaration += QStringLiteral("LONGTEXT COLLATE TR");
+        declaration += QStringLiteral("LONGTEXT");
         break;
     }
     if (isText() && !allowZeroLength)

@@ -1,5 +1,6 @@
 #include "core/SqlFunctions.h"
 
+#include "core/TurkishText.h"
 #include "money/DayNumber.h"
 
 #include <QCollator>
@@ -72,6 +73,26 @@ void startsWithTurkish(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_int(context, turkishCollator().compare(QStringView(text).left(prefix.size()), prefix) == 0);
 }
 
+// trupper(text): the text in upper case by the Turkish rules; what two spellings of one account
+// code have in common, for joins.
+void upperTurkish(sqlite3_context *context, int, sqlite3_value **arguments)
+{
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) {
+        sqlite3_result_null(context);
+        return;
+    }
+    const QByteArray upper = TurkishUpper(textArgument(arguments[0])).toUtf8();
+    sqlite3_result_text(context, upper.constData(), int(upper.size()), SQLITE_TRANSIENT);
+}
+
+bool addFunction(
+    sqlite3 *db, const char *name, int arguments, void (*function)(sqlite3_context *, int, sqlite3_value **))
+{
+    return sqlite3_create_function_v2(
+               db, name, arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, function, nullptr, nullptr, nullptr)
+        == SQLITE_OK;
+}
+
 } // namespace
 
 bool registerSqlFunctions(sqlite3 *db)
@@ -80,7 +101,5 @@ bool registerSqlFunctions(sqlite3 *db)
     static const DatePart month = DatePart::Month;
     return sqlite3_create_collation_v2(db, "TR", SQLITE_UTF8, nullptr, compareTurkish, nullptr) == SQLITE_OK
         && addDatePart(db, "year", year) && addDatePart(db, "month", month)
-        && sqlite3_create_function_v2(db, "startsWith", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
-               startsWithTurkish, nullptr, nullptr, nullptr)
-        == SQLITE_OK;
+        && addFunction(db, "startsWith", 2, startsWithTurkish) && addFunction(db, "trupper", 1, upperTurkish);
 }

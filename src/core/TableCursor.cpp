@@ -2,8 +2,11 @@
 
 #include "core/Database.h"
 #include "core/Statement.h"
+#include "core/TurkishText.h"
 
 #include <sqlite3.h>
+
+#include <set>
 
 namespace {
 
@@ -14,11 +17,11 @@ QString quoted(const QString &name)
     return name == rowidColumn ? name : u'"' + name + u'"';
 }
 
-QString columnList(const QStringList &columns, const QString &suffix = QString())
+QString columnList(const QStringList &columns)
 {
     QStringList parts;
     for (const QString &column : columns)
-        parts << quoted(column) + suffix;
+        parts << quoted(column);
     return parts.join(QStringLiteral(", "));
 }
 
@@ -28,15 +31,6 @@ QString placeholders(int count)
     for (int i = 1; i <= count; ++i)
         marks << QStringLiteral("?%1").arg(i);
     return marks.join(QStringLiteral(", "));
-}
-
-// "c > ?1" for one column, "(c1, c2) > (?1, ?2)" for more.
-QString comparison(const QStringList &columns, const QString &op)
-{
-    if (columns.size() == 1)
-        return quoted(columns.first()) + u' ' + op + QStringLiteral(" ?1");
-    return u'(' + columnList(columns) + QStringLiteral(") ") + op + QStringLiteral(" (")
-        + placeholders(int(columns.size())) + u')';
 }
 
 } // namespace
@@ -81,17 +75,48 @@ bool TableCursor::loadSchema()
     m_order = QStringList { rowidColumn };
 
     Statement indexes(m_db.handle(),
-        QStringLiteral("SELECT il.name, ii.name FROM pragma_index_list(?1) AS il, "
+        QStringLiteral("SELECT il.name, ii.name, il.\"unique\" FROM pragma_index_list(?1) AS il, "
                        "pragma_index_info(il.name) AS ii ORDER BY il.name, ii.seqno"));
     if (!indexes.isValid() || !indexes.bind(1, m_table))
         return false;
     const QString prefix = m_table.toLower() + u'_';
+    std::set<QString> unique;
     while (indexes.next()) {
         const QString sqlName = indexes.column(0).toString().toLower();
-        if (sqlName.startsWith(prefix))
-            m_indexes[sqlName.mid(prefix.size())] << indexes.column(1).toString();
+        if (!sqlName.startsWith(prefix))
+            continue;
+        const QString name = sqlName.mid(prefix.size());
+        m_indexes[name] << indexes.column(1).toString();
+        if (indexes.column(2).toLongLong() != 0)
+            unique.insert(name);
+    }
+    for (const QString &name : unique) {
+        const QStringList &keyed = m_indexes[name];
+        if (keyed.size() == 1 && field(fieldIndex(keyed.first())).isText())
+            m_uniqueTexts << keyed.first();
     }
     return indexes.done();
+}
+
+// The file compares text keys as bytes; the program keeps them unique the Turkish way, where
+// "ışık" and "IŞIK" are one key.
+bool TableCursor::keyTakenElsewhere()
+{
+    for (const QString &column : std::as_const(m_uniqueTexts)) {
+        const auto written = m_pendingValues.find(fieldIndex(column));
+        if (written == m_pendingValues.end())
+            continue;
+        Statement *query = statement(QStringLiteral("SELECT 1 FROM \"%1\" WHERE %2 AND _rowid_ IS NOT ?2")
+                                         .arg(m_table, AnySpelling(quoted(column), 1)));
+        const QVariant self = m_pending == Pending::Edit ? QVariant(m_rowid) : QVariant();
+        if (!query || !query->bindAll({ AnySpellingValue(written->second.toString()), self }))
+            return true;
+        const bool taken = query->next();
+        query->reset();
+        if (taken)
+            return true;
+    }
+    return false;
 }
 
 Statement *TableCursor::statement(const QString &sql)
@@ -104,9 +129,27 @@ Statement *TableCursor::statement(const QString &sql)
     return prepared->isValid() ? prepared : nullptr;
 }
 
+QString TableCursor::orderTerms(const QStringList &columns, const QString &suffix) const
+{
+    QStringList terms;
+    for (const QString &column : columns) {
+        const bool text = column != rowidColumn && field(fieldIndex(column)).isText();
+        terms << quoted(column) + (text ? QStringLiteral(" COLLATE TR") : QString()) + suffix;
+    }
+    return terms.join(QStringLiteral(", "));
+}
+
+QString TableCursor::comparison(const QStringList &columns, const QString &op) const
+{
+    if (columns.size() == 1)
+        return orderTerms(columns) + u' ' + op + QStringLiteral(" ?1");
+    return u'(' + orderTerms(columns) + QStringLiteral(") ") + op + QStringLiteral(" (")
+        + placeholders(int(columns.size())) + u')';
+}
+
 QString TableCursor::selectSql(const QString &where, Direction direction) const
 {
-    const QString order = columnList(m_order, direction == Direction::Forward ? QString() : QStringLiteral(" DESC"));
+    const QString order = orderTerms(m_order, direction == Direction::Forward ? QString() : QStringLiteral(" DESC"));
     return QStringLiteral("SELECT %1 FROM \"%2\"%3 ORDER BY %4 LIMIT 1")
         .arg(m_columns, m_table, where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + where, order);
 }
@@ -211,9 +254,13 @@ bool TableCursor::seek(const QString &indexName, const QVariant &key)
     if (!field(fieldIndex(columns.last())).autoNumber)
         m_order << rowidColumn;
 
+    // A text key is found in any of its case spellings, through the index.
+    const bool text = field(fieldIndex(columns.first())).isText();
+    const QString where
+        = text ? AnySpelling(quoted(columns.first()), 1) : comparison({ columns.first() }, QStringLiteral("="));
+    const QVariant bound = text ? QVariant(AnySpellingValue(stored.toString())) : stored;
     bool found = false;
-    if (!position(
-            selectSql(comparison({ columns.first() }, QStringLiteral("=")), Direction::Forward), { stored }, &found))
+    if (!position(selectSql(where, Direction::Forward), { bound }, &found))
         return false;
     if (!found) { // no current record; moves go on from where the key would stand
         m_onRecord = false;
@@ -258,7 +305,7 @@ bool TableCursor::write(const QString &fieldName, const QVariant &value)
 
 bool TableCursor::update()
 {
-    if (m_refused)
+    if (m_refused || keyTakenElsewhere())
         return false;
     const bool stored = m_pending == Pending::AddNew ? insertPending()
         : m_pending == Pending::Edit                 ? updatePending()

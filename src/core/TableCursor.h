@@ -43,7 +43,12 @@ private:
     TableCursor(Database &db, const QString &table);
     bool loadSchema();
     Statement *statement(const QString &sql);
+    // The columns as ORDER BY terms: text in Turkish order.
+    QString orderTerms(const QStringList &columns, const QString &suffix = QString()) const;
+    // "c > ?1" for one column, "(c1, c2) > (?1, ?2)" for more, in the order of orderTerms.
+    QString comparison(const QStringList &columns, const QString &op) const;
     QString selectSql(const QString &where, Direction direction) const;
+    bool keyTakenElsewhere();
     // Runs a positioning query; on a row the cursor stands on it. False on an engine error.
     bool position(const QString &sql, const QVariantList &values, bool *found);
     // To the first (Forward) or last (Backward) record in index order.
@@ -57,6 +62,7 @@ private:
     QString m_table;
     QString m_columns; // the select list: row number, then every field
     std::map<QString, QStringList> m_indexes; // index name (lower case) -> its columns
+    QStringList m_uniqueTexts; // text columns that a unique index of their own keys
     QStringList m_order; // columns that order the cursor, ending in a unique one
     QVariantList m_key; // the position: values of a prefix of m_order
     bool m_onRecord = false;

@@ -92,12 +92,14 @@ void WithholdingListScreen::defineColumns()
 // last one.
 void WithholdingListScreen::listEntered()
 {
+    // The payer's card is found by the code's Turkish upper case, in any spelling of it.
     QString sql = QStringLiteral(
+        "WITH k AS MATERIALIZED (SELECT trupper(kod) AS anahtar, unv, vn, vd FROM carkart) "
         "SELECT d.tarih AS donem, d.brut AS brut, d.stopaj AS vergi, k.unv AS adsoy, k.vn AS verno, k.vd AS verda "
-        "FROM defter d LEFT JOIN carkart k ON k.kod = d.cari WHERE d.islem = 0 AND d.stopaj > 0");
+        "FROM defter d LEFT JOIN k ON k.anahtar = trupper(d.cari) WHERE d.islem = 0 AND d.stopaj > 0");
     QVariantList values;
     sql += DateBounds(QStringLiteral("d.tarih"), m_dates[0], m_dates[1], values);
-    sql += QStringLiteral(" ORDER BY d.cari, d.tarih, d.oto");
+    sql += QStringLiteral(" ORDER BY d.cari COLLATE TR, d.tarih, d.oto");
     const QString query = sql + QStringLiteral("|") + QVariant(values).toStringList().join(u',');
     if (query == m_lastQuery)
         return;

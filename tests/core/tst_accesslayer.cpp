@@ -197,7 +197,7 @@ void TestAccessLayer::turkishOrder()
         QStringLiteral("İsmail"), QStringLiteral("Oya"), QStringLiteral("Ömer") };
     for (const QString &name : names)
         QVERIFY(addCard(name, name));
-    QCOMPARE(QueryTexts(QStringLiteral("SELECT unv FROM carkart ORDER BY unv"), QStringLiteral("unv")), sorted);
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT unv FROM carkart ORDER BY unv COLLATE TR"), QStringLiteral("unv")), sorted);
 
     QVERIFY(RsSeek(carkart(), QStringLiteral("kod"), QStringLiteral("Cem")));
     QStringList walked;
@@ -205,7 +205,7 @@ void TestAccessLayer::turkishOrder()
         walked << FieldRead(carkart(), QStringLiteral("kod")).toString();
     while (RsNext(carkart()));
     QCOMPARE(walked, sorted);
-    QCOMPARE(QueryTexts(QStringLiteral("SELECT kod FROM carkart WHERE kod > ?1 AND kod < ?2 ORDER BY kod"),
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT kod FROM carkart WHERE kod COLLATE TR BETWEEN ?1 AND ?2 ORDER BY kod COLLATE TR"),
                  QStringLiteral("kod"), { QStringLiteral("C"), QStringLiteral("J") }),
         sorted.mid(0, 4));
 }
