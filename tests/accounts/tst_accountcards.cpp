@@ -137,7 +137,7 @@ void TestAccountCards::balancePanel()
     QFETCH(bool, withDeposit);
     QFETCH(QStringList, expected);
     QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 0, Currency::fromUnits(600)));
-    QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 0, Currency::fromUnits(400)));
+    QVERIFY(AddTransaction(QStringLiteral("b1"), 2, 0, Currency::fromUnits(400))); // the same code in lower case
     QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 1, Currency::fromUnits(250)));
     QVERIFY(AddTransaction(QStringLiteral("C1"), 1, 0, Currency::fromUnits(99)));
     if (withDeposit)
@@ -159,7 +159,7 @@ void TestAccountCards::balancePanel()
 void TestAccountCards::deleteAsksFirst()
 {
     QVERIFY(AddTransaction(QStringLiteral("B1"), 2, 0, Currency::fromUnits(600)));
-    QVERIFY(AddTransaction(QStringLiteral("B1"), 1, 1, Currency::fromUnits(100)));
+    QVERIFY(AddTransaction(QStringLiteral("b1"), 1, 1, Currency::fromUnits(100))); // the same code in lower case
     QVERIFY(AddTransaction(QStringLiteral("C1"), 1, 1, Currency::fromUnits(100)));
     typeInto(0, QStringLiteral("B1"));
     key(Qt::Key_Return);

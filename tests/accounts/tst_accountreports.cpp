@@ -1,7 +1,7 @@
 #include "accounts/AccountStatementScreen.h"
 #include "accounts/DebitCreditScreen.h"
-#include "controls/ListWindow.h"
 #include "controls/DcList.h"
+#include "controls/ListWindow.h"
 #include "controls/XText.h"
 #include "money/AmountConventions.h"
 #include "printing/PrintSettings.h"
@@ -85,6 +85,7 @@ private slots:
     void debitCreditListAsPdf();
     void statementOnScreen();
     void statementPagesOnTheDotMatrixPrinter();
+    void turkishOrderAndCase();
 
 private:
     template <typename ScreenType> ScreenType *open(const char *item, const char *form);
@@ -394,3 +395,35 @@ void TestAccountReports::statementPagesOnTheDotMatrixPrinter()
 
 QTEST_MAIN(TestAccountReports)
 #include "tst_accountreports.moc"
+
+// Codes in Turkish order (C, Ç, D, I, İ), a range typed in lower case, and one account posted
+// under two spellings of its code: one line, one account, under the card's code.
+void TestAccountReports::turkishOrderAndCase()
+{
+    for (const char16_t *code : { u"İNCİ", u"IŞIK", u"ÇAM", u"DENİZ", u"CEM" })
+        QVERIFY(AddCard(QString::fromUtf16(code), QStringLiteral("Kart ") + QString::fromUtf16(code)));
+    QVERIFY(AddTransaction(QStringLiteral("ışık"), 2, 0, lira(100), QDate(2026, 3, 1)));
+    QVERIFY(AddTransaction(QStringLiteral("IŞIK"), 1, 1, lira(40), QDate(2026, 3, 2)));
+    QVERIFY(AddTransaction(QStringLiteral("çam"), 2, 0, lira(10), QDate(2026, 3, 3)));
+    QVERIFY(AddTransaction(QStringLiteral("CEM"), 2, 0, lira(20), QDate(2026, 3, 4)));
+    QVERIFY(AddTransaction(QStringLiteral("İNCİ"), 2, 0, lira(5), QDate(2026, 3, 5)));
+
+    auto *list = open<DebitCreditScreen>("mnugbor", "Form10");
+    QVERIFY(list);
+    QCOMPARE(field(0)->Text(), QStringLiteral("CEM"));
+    QCOMPARE(field(1)->Text(), QStringLiteral("İNCİ"));
+    TypeIntoField(field(0), QStringLiteral("c"));
+    TypeIntoField(field(1), QStringLiteral("i")); // İ: after IŞIK, before İNCİ
+    list->listOnScreen();
+    QCOMPARE(shownRows(list->listWindow()->list()),
+        QStringList({ "CEM|Kart CEM|20.00||20.00|", "ÇAM|Kart ÇAM|10.00||10.00|", "IŞIK|Kart IŞIK|100.00|40.00|60.00|",
+            "|T O P L A M|130.00|40.00|90.00|" }));
+
+    auto *statement = open<AccountStatementScreen>("mnucareks", "Form16");
+    TypeIntoField(field(0), QStringLiteral("ı")); // I: after DENİZ
+    statement->listOnScreen();
+    QCOMPARE(shownRows(statement->listWindow()->list()),
+        QStringList({ "IŞIK|||Kart IŞIK|||", "01.03.2026|2-SMM|||100.00||100.00 B",
+            "02.03.2026|1-Nakit||||40.00|60.00 B", "|||Hesap Toplamı :|100.00|40.00|60.00 B", "İNCİ|||Kart İNCİ|||",
+            "05.03.2026|2-SMM|||5.00||5.00 B", "|||Hesap Toplamı :|5.00||5.00 B" }));
+}

@@ -102,7 +102,7 @@ void TestAccountTransactions::listsInOrderWithRunningBalance()
     QVERIFY(AddTransaction(QStringLiteral("K1"), 2, 0, Currency::fromUnits(1000), QDate(2026, 11, 10)));
     QVERIFY(AddTransaction(QStringLiteral("K1"), 1, 1, Currency::fromUnits(300), QDate(2026, 11, 5)));
     QVERIFY(AddTransaction(QStringLiteral("K1"), 1, 0, Currency::fromUnits(200), QDate(2026, 11, 5)));
-    QVERIFY(AddTransaction(QStringLiteral("K1"), 3, 1, Currency::fromUnits(150), QDate(2026, 11, 12)));
+    QVERIFY(AddTransaction(QStringLiteral("k1"), 3, 1, Currency::fromUnits(150), QDate(2026, 11, 12))); // lower case
     QVERIFY(AddTransaction(QStringLiteral("K1"), 12, 1, Currency::fromUnits(50), QDate(2026, 11, 13)));
     QVERIFY(AddTransaction(QStringLiteral("K2"), 1, 0, Currency::fromUnits(999), QDate(2026, 11, 5)));
     chooseAccount(QStringLiteral("k1"));
@@ -111,7 +111,8 @@ void TestAccountTransactions::listsInOrderWithRunningBalance()
     QVERIFY(grid()->Editable());
     QCOMPARE(column(AccountTransactionsScreen::Tarih),
         QStringList({ "05.11.2026", "05.11.2026", "10.11.2026", "12.11.2026", "13.11.2026", "" }));
-    QCOMPARE(column(AccountTransactionsScreen::Islem), QStringList({ "1-Nakit", "1-Nakit", "2-SMM", "3-Emanet", "", "" }));
+    QCOMPARE(
+        column(AccountTransactionsScreen::Islem), QStringList({ "1-Nakit", "1-Nakit", "2-SMM", "3-Emanet", "", "" }));
     QCOMPARE(column(AccountTransactionsScreen::Ba), QStringList({ "B", "A", "B", "A", "A", "" }));
     QCOMPARE(column(AccountTransactionsScreen::Bakiye),
         QStringList({ "200.00", "-100.00", "900.00", "750.00", "700.00", "700.00" }));
@@ -126,9 +127,10 @@ void TestAccountTransactions::typedRowIsStoredThenEdited()
 {
     chooseAccount(QStringLiteral("K1"));
     TypeGridRow(grid(), { "05", "M12", "Danışma", "3", "+", "250" });
-    QCOMPARE(QueryTexts(QStringLiteral("SELECT kod || ':' || tarih || ':' || evrak || ':' || ack || ':' || islem || ':' "
-                                       "|| ba || ':' || tutar || ':' || oto AS r FROM carhar"),
-                 QStringLiteral("r")),
+    QCOMPARE(
+        QueryTexts(QStringLiteral("SELECT kod || ':' || tarih || ':' || evrak || ':' || ack || ':' || islem || ':' "
+                                  "|| ba || ':' || tutar || ':' || oto AS r FROM carhar"),
+            QStringLiteral("r")),
         QStringList { "K1:46331:M12:Danışma:3:0:2500000:1" });
     QCOMPARE(grid()->Caption(0, AccountTransactionsScreen::Oto), QStringLiteral("1"));
     QCOMPARE(grid()->ListCount(), 2); // a new empty row after the stored one
@@ -256,7 +258,8 @@ void TestAccountTransactions::deleteAsksFirst()
     m_kit->messages().answerNext(true);
     QTest::keyClick(grid()->view(), Qt::Key_Delete);
     QCOMPARE(grid()->ListCount(), 2);
-    QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || '' AS t FROM carhar"), QStringLiteral("t")), QStringList { "400000" });
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || '' AS t FROM carhar"), QStringLiteral("t")),
+        QStringList { "400000" });
     QCOMPARE(column(AccountTransactionsScreen::Bakiye), QStringList({ "40.00", "40.00" }));
     QCOMPARE(panel(0, 0), QStringLiteral("40.00"));
 }

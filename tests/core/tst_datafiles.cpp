@@ -41,6 +41,27 @@ QStringList columnsOf(const QString &table)
         QStringLiteral("SELECT name || ' ' || type AS c FROM pragma_table_info(?1)"), QStringLiteral("c"), { table });
 }
 
+// What the stock sqlite3 shell prints for a statement on a file (its errors included).
+QStringList shell(const QString &path, const QString &sql)
+{
+    QProcess sqlite;
+    sqlite.start(QStringLiteral("sqlite3"), { path, sql });
+    if (!sqlite.waitForFinished(20000))
+        return { QStringLiteral("sqlite3 did not finish") };
+    return QString::fromUtf8(sqlite.readAllStandardOutput() + sqlite.readAllStandardError())
+        .split(u'\n', Qt::SkipEmptyParts);
+}
+
+// Every row of the five tables with its record number, as the shell prints them.
+QStringList everyRow(const QString &path)
+{
+    QStringList rows;
+    for (const char *table : { "genel", "carkart", "carhar", "defter", "duzen" })
+        rows << shell(
+            path, QStringLiteral("SELECT '%1', _rowid_, * FROM %1 ORDER BY _rowid_").arg(QLatin1String(table)));
+    return rows;
+}
+
 // Files found where the books should be that the program must not write to.
 enum class Found { Garbage, Text, OtherTables, ExtraColumn, DamagedPage };
 
@@ -72,9 +93,15 @@ private slots:
     void missingBookWithCopiesAsksFirst();
     void oldCopiesAreThinnedOut_data();
     void oldCopiesAreThinnedOut();
+    void standardToolsReadTheBooks();
+    void booksOfTheOwnCollationAreMadePlain_data();
+    void booksOfTheOwnCollationAreMadePlain();
 
 private:
     bool makeFile(Found kind, const QString &path);
+    // A book as the program made it while its text columns declared the collation TR, with
+    // Turkish text, a deleted last transaction and a parameter.
+    bool makeBookOfTheOwnCollation();
     QString dataFile() const { return m_dir->filePath(QStringLiteral("xsmm.dat")); }
     // Opens the folder's books as a start does, then closes them; the messages it gave.
     QStringList startAndClose();
@@ -495,3 +522,97 @@ void TestDataFiles::oldCopiesAreThinnedOut()
 
 QTEST_MAIN(TestDataFiles)
 #include "tst_datafiles.moc"
+
+// The books the program made and used, read by the sqlite3 shell: the whole check passes, the
+// cards list by code and by title (in the shell's byte order), and the indexes answer.
+void TestDataFiles::standardToolsReadTheBooks()
+{
+    StartRoutine start;
+    QVERIFY(start.run(m_dir->path()));
+    GenelTxtSet(QStringLiteral("unvan"), QStringLiteral("Ayşe Yılmaz"));
+    for (const auto &[code, title] : { std::pair { u"IŞIK", u"Işık Ltd." }, { u"C1", u"Çiçek Eczanesi" } }) {
+        QVERIFY(RsAddNew(*dataFiles().carkart));
+        FieldWrite(*dataFiles().carkart, QStringLiteral("kod"), QString::fromUtf16(code));
+        FieldWrite(*dataFiles().carkart, QStringLiteral("unv"), QString::fromUtf16(title));
+        QVERIFY(RsUpdate(*dataFiles().carkart));
+    }
+    QVERIFY(AddAccountPosting({ QStringLiteral("ışık"), QDate(2026, 11, 23), 2, {}, {}, 0, Currency::fromUnits(5) }));
+    CloseDataFiles();
+
+    QCOMPARE(shell(dataFile(), QStringLiteral("PRAGMA integrity_check")), QStringList { "ok" });
+    QCOMPARE(shell(dataFile(), QStringLiteral("SELECT kod FROM carkart ORDER BY kod")), QStringList({ "C1", "IŞIK" }));
+    QCOMPARE(shell(dataFile(), QStringLiteral("SELECT unv FROM carkart ORDER BY unv")),
+        QStringList({ "Işık Ltd.", "Çiçek Eczanesi" }));
+    QCOMPARE(shell(dataFile(), QStringLiteral("SELECT tutar FROM carhar WHERE kod = 'ışık'")), QStringList { "50000" });
+    QCOMPARE(
+        shell(dataFile(), QStringLiteral("SELECT txt FROM genel WHERE kod = 'unvan'")), QStringList { "Ayşe Yılmaz" });
+}
+
+bool TestDataFiles::makeBookOfTheOwnCollation()
+{
+    QTemporaryDir plain;
+    SetProgramFolder(plain.path());
+    if (!CreateDataFiles() || !OpenDataFiles())
+        return false;
+    const QStringList schema = dataFiles().db->texts(QStringLiteral(
+        "SELECT sql FROM sqlite_master WHERE sql NOT NULL AND name <> 'sqlite_sequence' ORDER BY type DESC, name"));
+    CloseDataFiles();
+    SetProgramFolder(m_dir->path());
+    std::unique_ptr<Database> old = Database::create(dataFile());
+    if (!old)
+        return false;
+    for (QString sql : schema)
+        if (!old->run(
+                sql.replace(QRegularExpression(QStringLiteral("(TEXT\\(\\d+\\))")), QStringLiteral("\\1 COLLATE TR"))))
+            return false;
+    return old->run(QStringLiteral(
+        "INSERT INTO genel (kod, txt) VALUES ('unvan', 'Ayşe Yılmaz');"
+        "INSERT INTO carkart (kod, unv, tip) VALUES ('IŞIK', 'Işık Ltd.', 0), ('C1', 'Çiçek', 1);"
+        "INSERT INTO carhar (kod, tarih, islem, ba, tutar) VALUES ('ışık', 46000, 2, 0, 50000), "
+        "('IŞIK', 46001, 1, 1, 20000), ('C1', 46002, 1, 0, 7);"
+        "DELETE FROM carhar WHERE oto = 3;"
+        "INSERT INTO defter (tarih, islem, cari, ack, brut, stopaj) VALUES (46000, 0, 'ışık', 'Danışmanlık', "
+        "1000000, 200000);"
+        "INSERT INTO duzen (no, uzun, sol, ust, txt) VALUES (1, 8, 2.5, 3, 'Sayın');"));
+}
+
+void TestDataFiles::booksOfTheOwnCollationAreMadePlain_data()
+{
+    QTest::addColumn<bool>("copyPossible");
+    QTest::newRow("after a copy") << true;
+    QTest::newRow("no copy, no change") << false;
+}
+
+// Books of the collation TR become plain ones on opening, row for row, after a copy of them; when
+// no copy can be made they stay as they were and the program works on them all the same.
+void TestDataFiles::booksOfTheOwnCollationAreMadePlain()
+{
+    QFETCH(bool, copyPossible);
+    QVERIFY(makeBookOfTheOwnCollation());
+    const QStringList rows = everyRow(dataFile());
+    QCOMPARE(rows.size(), 7);
+    const QByteArray before = contents(dataFile());
+    if (!copyPossible)
+        QVERIFY(writeFile(m_dir->filePath(QStringLiteral("yedek")), "bir dosya")); // no folder for copies
+    QCOMPARE(startAndClose(), QStringList());
+    QCOMPARE(everyRow(dataFile()), rows);
+    const QString declared = QStringLiteral("SELECT count(*) FROM sqlite_master WHERE sql LIKE '%COLLATE%'");
+    if (copyPossible) {
+        QCOMPARE(shell(dataFile(), QStringLiteral("PRAGMA integrity_check")), QStringList { "ok" });
+        QCOMPARE(shell(dataFile(), declared), QStringList { "0" });
+        const QDir copies(Backups::folder());
+        const QString first
+            = copies.filePath(copies.entryList({ QStringLiteral("*.dat") }, QDir::Files, QDir::Name).value(0));
+        QCOMPARE(shell(first, declared), QStringList { "5" }); // the first copy: the books as they were
+        QCOMPARE(shell(dataFile(), QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' ORDER BY name")),
+            QStringList({ "carhar_islemtarih", "carhar_kodbakiye", "carhar_kodtarih", "carkart_kod", "defter_islemcari",
+                "defter_tarihislem", "genel_kod" }));
+    } else {
+        QCOMPARE(contents(dataFile()), before);
+    }
+
+    QVERIFY(OpenDataFiles());
+    QVERIFY(CariExists(QStringLiteral("ışık")));
+    QCOMPARE(AddAccountPosting({ QStringLiteral("C1"), QDate(2026, 11, 23), 1, {}, {}, 0, Currency::fromUnits(1) }),
+        qint64(4)); // record numbers go on after the deleted one
+}

@@ -103,19 +103,21 @@ void TestWithholdingList::listedByPayerAndDateWhenEntered()
 {
     QVERIFY(AddLedgerRow(0, QDate(2026, 3, 5), { 1000, 200, 0, 180 }, QStringLiteral("K1")));
     QVERIFY(AddLedgerRow(0, QDate(2026, 4, 1), { 500, 100, 0, 90 }, QStringLiteral("A9"))); // no card
-    QVERIFY(AddLedgerRow(0, QDate(2026, 2, 1), { 2000, 400, 0, 360 }, QStringLiteral("K1")));
+    QVERIFY(AddLedgerRow(0, QDate(2026, 2, 1), { 2000, 400, 0, 360 }, QStringLiteral("k1"))); // K1 in lower case
+    QVERIFY(AddLedgerRow(0, QDate(2026, 4, 2), { 300, 60, 0, 54 }, QStringLiteral("Ç9"))); // Ç before K
     QVERIFY(AddLedgerRow(0, QDate(2026, 2, 9), { 700, 0, 0, 126 }, QStringLiteral("K1"))); // nothing withheld
     QVERIFY(AddLedgerRow(1, QDate(2026, 2, 10), { 300, 60, 0, 54 }, QStringLiteral("K1"))); // an expense
     QCOMPARE(grid()->ListCount(), 0);
     enterList();
-    QCOMPARE(grid()->ListCount(), 3);
+    QCOMPARE(grid()->ListCount(), 4);
     QCOMPARE(shownRow(0), QStringList({ "1", "", "", "", "SMK", "01.04.2026", "500.00", "100.00" }));
-    QCOMPARE(shownRow(1),
-        QStringList({ "2", "Kaya Hukuk Ltd.", "1234567890", "Kadıköy", "SMK", "01.02.2026", "2,000.00", "400.00" }));
+    QCOMPARE(shownRow(1), QStringList({ "2", "", "", "", "SMK", "02.04.2026", "300.00", "60.00" }));
     QCOMPARE(shownRow(2),
-        QStringList({ "3", "Kaya Hukuk Ltd.", "1234567890", "Kadıköy", "SMK", "05.03.2026", "1,000.00", "200.00" }));
-    QCOMPARE(total(1), QStringLiteral("3,500.00"));
-    QCOMPARE(total(0), QStringLiteral("700.00"));
+        QStringList({ "3", "Kaya Hukuk Ltd.", "1234567890", "Kadıköy", "SMK", "01.02.2026", "2,000.00", "400.00" }));
+    QCOMPARE(shownRow(3),
+        QStringList({ "4", "Kaya Hukuk Ltd.", "1234567890", "Kadıköy", "SMK", "05.03.2026", "1,000.00", "200.00" }));
+    QCOMPARE(total(1), QStringLiteral("3,800.00"));
+    QCOMPARE(total(0), QStringLiteral("760.00"));
 }
 
 void TestWithholdingList::sameDatesDoNotReload()
