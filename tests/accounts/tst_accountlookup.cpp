@@ -44,8 +44,8 @@ void TestAccountLookup::init()
     m_messages = std::make_unique<MessageLog>();
     m_folder = std::make_unique<TestDataFolder>();
     QVERIFY(m_folder->isReady());
-    QVERIFY(AddCard(QStringLiteral("M002"), QStringLiteral("Ahmet Kaya")));
-    QVERIFY(AddCard(QStringLiteral("M001"), QStringLiteral("Zeynep Ak")));
+    QVERIFY(AddCard(QStringLiteral("MÇ02"), QStringLiteral("Ahmet Kaya")));
+    QVERIFY(AddCard(QStringLiteral("MD01"), QStringLiteral("Zeynep Ak")));
     QVERIFY(AddCard(QStringLiteral("A01"), QStringLiteral("Ahenk Ltd.")));
     QVERIFY(AddCard(QStringLiteral("P1"), QStringLiteral("İsmail Işık")));
     QVERIFY(AddCard(QStringLiteral("Q1"), QStringLiteral("O'Neil %_ Ltd.")));
@@ -71,7 +71,7 @@ void TestAccountLookup::opensWithEveryCardByTitle()
 {
     AccountLookup lookup;
     QCOMPARE(lookup.windowTitle(), QStringLiteral("Hesap Rehberi"));
-    QCOMPARE(codes(lookup), QStringList({ "A01", "M002", "I9", "P1", "Q1", "M001" }));
+    QCOMPARE(codes(lookup), QStringList({ "A01", "MÇ02", "I9", "P1", "Q1", "MD01" }));
 }
 
 void TestAccountLookup::searches_data()
@@ -79,9 +79,9 @@ void TestAccountLookup::searches_data()
     QTest::addColumn<int>("searchField");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QStringList>("found");
-    QTest::newRow("code M, by code") << 0 << "M" << QStringList { "M001", "M002" };
-    QTest::newRow("code in lower case") << 0 << "m00" << QStringList { "M001", "M002" };
-    QTest::newRow("title Ah, by title") << 1 << "Ah" << QStringList { "A01", "M002" };
+    QTest::newRow("code M, in Turkish order") << 0 << "M" << QStringList { "MÇ02", "MD01" };
+    QTest::newRow("code in lower case") << 0 << "mç" << QStringList { "MÇ02" };
+    QTest::newRow("title Ah, by title") << 1 << "Ah" << QStringList { "A01", "MÇ02" };
     QTest::newRow("i finds İ") << 1 << "ism" << QStringList { "P1" };
     QTest::newRow("ı finds I") << 1 << "ırm" << QStringList { "I9" };
     QTest::newRow("i does not find I") << 1 << "irm" << QStringList {};
@@ -117,7 +117,7 @@ void TestAccountLookup::chosenRowIsReturned()
     QTest::keyClick(view, Qt::Key_Down);
     QTest::keyClick(view, Qt::Key_Return);
     QCOMPARE(lookup.result(), int(QDialog::Accepted));
-    QCOMPARE(SelectedAccountCode(), QStringLiteral("M002"));
+    QCOMPARE(SelectedAccountCode(), QStringLiteral("MD01"));
 }
 
 void TestAccountLookup::cancelReturnsNothing_data()
@@ -156,7 +156,7 @@ void TestAccountLookup::highlightedRowIsReturnedAtOnce()
     QCOMPARE(list(lookup)->CurSat(), 0);
     QTest::keyClick(list(lookup)->view(), Qt::Key_Return);
     QCOMPARE(lookup.result(), int(QDialog::Accepted));
-    QCOMPARE(SelectedAccountCode(), QStringLiteral("M001"));
+    QCOMPARE(SelectedAccountCode(), QStringLiteral("MÇ02"));
 }
 
 void TestAccountLookup::acceptingWithoutARowReturnsNothing()

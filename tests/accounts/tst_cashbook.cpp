@@ -11,8 +11,8 @@
 #include "printing/PrinterSetupDialog.h"
 #include "testsupport/Books.h"
 #include "testsupport/ExpectedPage.h"
-#include "testsupport/QueryTexts.h"
 #include "testsupport/PrivateSpooler.h"
+#include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
 #include "testsupport/Typing.h"
 
@@ -119,8 +119,9 @@ QStringList TestCashBook::shownRow(int row) const
 
 QStringList TestCashBook::stored() const
 {
-    return QueryTexts(QStringLiteral("SELECT kod || ':' || tarih || ':' || islem || ':' || evrak || ':' || ack || ':' || "
-                                     "ba || ':' || tutar AS r FROM carhar ORDER BY oto"),
+    return QueryTexts(
+        QStringLiteral("SELECT kod || ':' || tarih || ':' || islem || ':' || evrak || ':' || ack || ':' || "
+                       "ba || ':' || tutar AS r FROM carhar ORDER BY oto"),
         QStringLiteral("r"));
 }
 
@@ -185,7 +186,7 @@ void TestCashBook::carryOverOnOneSide()
 
 void TestCashBook::typedRowIsStored()
 {
-    post(QStringLiteral("K1"), 2, 0, 1000, today.addDays(-10));
+    post(QStringLiteral("k1"), 2, 0, 1000, today.addDays(-10)); // the code in lower case
     enterGrid();
     TypeGridRow(grid(), { "K1" });
     QCOMPARE(label("cariUnvan"), QStringLiteral("Kaya Hukuk"));
@@ -315,14 +316,13 @@ void TestCashBook::printedDayOnTheDotMatrixPrinter()
     QTest::keyClick(grid()->view(), Qt::Key_F8);
 
     ExpectedRawPage page;
-    const auto rule = [&page] {
-        page.rule(8).gap().rule(1).gap().rule(8).gap().rule(35).gap().rule(11).gap().rule(11).endLine();
-    };
-    const auto line = [&page](const QString &code, const QString &e, const QString &text, const QString &in,
-                          const QString &out) {
-        page.field(code, 8).gap().field(e, 1).gap().field(QString(), 8).gap().field(text, 35).gap();
-        page.field(in, 11, 1).gap().field(out, 11, 1).endLine();
-    };
+    const auto rule
+        = [&page] { page.rule(8).gap().rule(1).gap().rule(8).gap().rule(35).gap().rule(11).gap().rule(11).endLine(); };
+    const auto line
+        = [&page](const QString &code, const QString &e, const QString &text, const QString &in, const QString &out) {
+              page.field(code, 8).gap().field(e, 1).gap().field(QString(), 8).gap().field(text, 35).gap();
+              page.field(in, 11, 1).gap().field(out, 11, 1).endLine();
+          };
     const auto total = [&page](const QString &caption, const QString &in, const QString &out) {
         page.field(caption, 55).gap().field(in, 11, 1).gap().field(out, 11, 1).endLine();
     };
@@ -330,11 +330,17 @@ void TestCashBook::printedDayOnTheDotMatrixPrinter()
     page.bold(QStringLiteral("Kasa Defteri"), 80, 2).endLine();
     page.field(QStringLiteral("Tarih :"), 10, 1).field(QStringLiteral("16.11.2026"), 12).endLine();
     page.field(QStringLiteral(" "), 1).endLine();
-    page.bold(QStringLiteral("Cari"), 8).gap().bold(QStringLiteral("E"), 1).gap().bold(QStringLiteral("Evrak"), 8).gap();
+    page.bold(QStringLiteral("Cari"), 8)
+        .gap()
+        .bold(QStringLiteral("E"), 1)
+        .gap()
+        .bold(QStringLiteral("Evrak"), 8)
+        .gap();
     page.bold(QStringLiteral("Açıklama"), 35).gap().bold(QStringLiteral("Borç"), 11).gap();
     page.bold(QStringLiteral("Alacak"), 11).endLine();
     rule();
-    line(QStringLiteral("K2"), QStringLiteral("E"), QStringLiteral("Emanet iadesi"), QString(), QStringLiteral("40.00"));
+    line(
+        QStringLiteral("K2"), QStringLiteral("E"), QStringLiteral("Emanet iadesi"), QString(), QStringLiteral("40.00"));
     line(QStringLiteral("K1"), QString(), QStringLiteral("Tahsilat"), QStringLiteral("100.00"), QString());
     line(QString(), QString(), QString(), QString(), QString());
     rule();
