@@ -292,8 +292,8 @@ void AccountCardsScreen::remove()
         return;
     }
     SqlExecute(*dataFiles().db,
-        QStringLiteral("DELETE FROM carhar WHERE %1").arg(AnySpelling(QStringLiteral("kod"), 1)),
-        { AnySpellingValue(code) });
+        QStringLiteral("DELETE FROM carhar WHERE %1").arg(AnySpelling(QStringLiteral("kod"), QStringLiteral("?1"))),
+        { code });
     ShrinkEffect(false);
     clearCard();
     m_fields[0]->setText(QString());

@@ -164,8 +164,8 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
     std::unique_ptr<Recordset> rows;
     if (QueryOpen(*dataFiles().db, rows,
             QStringLiteral("SELECT * FROM carhar WHERE %1 ORDER BY tarih, islem, ba, oto")
-                .arg(AnySpelling(QStringLiteral("kod"), 1)),
-            { AnySpellingValue(code) })) {
+                .arg(AnySpelling(QStringLiteral("kod"), QStringLiteral("?1"))),
+            { code })) {
         for (; !RsEof(*rows); RsNext(*rows)) {
             const int row = grid->CreateNewCaption();
             if (row < 0)

@@ -249,8 +249,8 @@ void CashBookScreen::showAccount(const QString &code)
     std::unique_ptr<Recordset> balance;
     if (QueryOpen(*dataFiles().db, balance,
             QStringLiteral("SELECT sum(tutar * (-2 * ba + 1)) AS baki FROM carhar WHERE %1")
-                .arg(AnySpelling(QStringLiteral("kod"), 1)),
-            { AnySpellingValue(code) }))
+                .arg(AnySpelling(QStringLiteral("kod"), QStringLiteral("?1"))),
+            { code }))
         m_accountBalance->setValue(FormatAmount(AmountSumRead(*balance, QStringLiteral("baki"))));
 }
 

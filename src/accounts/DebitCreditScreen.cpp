@@ -5,6 +5,7 @@
 #include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "core/OpenInMain.h"
+#include "core/TurkishText.h"
 #include "money/AmountConventions.h"
 #include "printing/PagedReport.h"
 #include "printing/PrintPreset.h"
@@ -20,20 +21,19 @@ DebitCreditScreen::DebitCreditScreen(QWidget *parent)
 
 // Sums by stored code and side in the order of the covering index (kod, ba, tarih, tutar), the
 // two sides of a code side by side; then the card of each code (once per code, not per
-// transaction, matched by the Turkish upper case: "ışık" is the card "IŞIK") gives the title and
-// the type, and the spellings of one card add up. A negative amount lowers its side's sum before
-// the sum's size is taken.
+// transaction, in any case spelling: "ışık" is the card "IŞIK") gives the title and the type, and
+// the spellings of one card add up. A negative amount lowers its side's sum before the sum's
+// size is taken.
 std::vector<DebitCreditScreen::Account> DebitCreditScreen::accounts() const
 {
     QVariantList values;
     const QString sql
-        = QStringLiteral("WITH k AS MATERIALIZED (SELECT trupper(kod) AS anahtar, kod, unv, tip FROM carkart) "
-                         "SELECT k.kod AS kod, k.unv AS unv, k.tip AS tip, sum(s.borc) AS borc, "
+        = QStringLiteral("SELECT k.kod AS kod, k.unv AS unv, k.tip AS tip, sum(s.borc) AS borc, "
                          "sum(s.alacak) AS alacak FROM (SELECT kod, sum(CASE WHEN ba = 0 THEN tutar END) AS borc, "
                          "sum(CASE WHEN ba <> 0 THEN tutar END) AS alacak FROM (SELECT c.kod AS kod, c.ba AS ba, "
                          "sum(c.tutar) AS tutar FROM carhar c WHERE %1 GROUP BY c.kod, c.ba) GROUP BY kod) s "
-                         "JOIN k ON k.anahtar = trupper(s.kod) GROUP BY k.anahtar ORDER BY k.kod COLLATE TR")
-              .arg(rangeCondition(values));
+                         "JOIN carkart k ON %2 GROUP BY k.kod ORDER BY k.kod COLLATE TR")
+              .arg(rangeCondition(values), AnySpelling(QStringLiteral("k.kod"), QStringLiteral("s.kod")));
     std::vector<Account> found;
     std::unique_ptr<Recordset> rows;
     if (!QueryOpen(*dataFiles().db, rows, sql, values))

@@ -4,6 +4,8 @@
 #include "money/DayNumber.h"
 
 #include <QCollator>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLocale>
 #include <QStringDecoder>
 #include <QVarLengthArray>
@@ -73,16 +75,17 @@ void startsWithTurkish(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_int(context, turkishCollator().compare(QStringView(text).left(prefix.size()), prefix) == 0);
 }
 
-// trupper(text): the text in upper case by the Turkish rules; what two spellings of one account
-// code have in common, for joins.
-void upperTurkish(sqlite3_context *context, int, sqlite3_value **arguments)
+// spellings(text): the JSON array of the text's case spellings (CaseSpellings), for
+// "kod IN (SELECT value FROM json_each(spellings(…)))"; Null for Null.
+void caseSpellings(sqlite3_context *context, int, sqlite3_value **arguments)
 {
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) {
         sqlite3_result_null(context);
         return;
     }
-    const QByteArray upper = TurkishUpper(textArgument(arguments[0])).toUtf8();
-    sqlite3_result_text(context, upper.constData(), int(upper.size()), SQLITE_TRANSIENT);
+    const QStringList spellings = CaseSpellings(textArgument(arguments[0]));
+    const QByteArray json = QJsonDocument(QJsonArray::fromStringList(spellings)).toJson(QJsonDocument::Compact);
+    sqlite3_result_text(context, json.constData(), int(json.size()), SQLITE_TRANSIENT);
 }
 
 bool addFunction(
@@ -101,5 +104,5 @@ bool registerSqlFunctions(sqlite3 *db)
     static const DatePart month = DatePart::Month;
     return sqlite3_create_collation_v2(db, "TR", SQLITE_UTF8, nullptr, compareTurkish, nullptr) == SQLITE_OK
         && addDatePart(db, "year", year) && addDatePart(db, "month", month)
-        && addFunction(db, "startsWith", 2, startsWithTurkish) && addFunction(db, "trupper", 1, upperTurkish);
+        && addFunction(db, "startsWith", 2, startsWithTurkish) && addFunction(db, "spellings", 1, caseSpellings);
 }

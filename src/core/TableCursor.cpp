@@ -107,9 +107,9 @@ bool TableCursor::keyTakenElsewhere()
         if (written == m_pendingValues.end())
             continue;
         Statement *query = statement(QStringLiteral("SELECT 1 FROM \"%1\" WHERE %2 AND _rowid_ IS NOT ?2")
-                                         .arg(m_table, AnySpelling(quoted(column), 1)));
+                                         .arg(m_table, AnySpelling(quoted(column), QStringLiteral("?1"))));
         const QVariant self = m_pending == Pending::Edit ? QVariant(m_rowid) : QVariant();
-        if (!query || !query->bindAll({ AnySpellingValue(written->second.toString()), self }))
+        if (!query || !query->bindAll({ written->second, self }))
             return true;
         const bool taken = query->next();
         query->reset();
@@ -256,11 +256,10 @@ bool TableCursor::seek(const QString &indexName, const QVariant &key)
 
     // A text key is found in any of its case spellings, through the index.
     const bool text = field(fieldIndex(columns.first())).isText();
-    const QString where
-        = text ? AnySpelling(quoted(columns.first()), 1) : comparison({ columns.first() }, QStringLiteral("="));
-    const QVariant bound = text ? QVariant(AnySpellingValue(stored.toString())) : stored;
+    const QString where = text ? AnySpelling(quoted(columns.first()), QStringLiteral("?1"))
+                               : comparison({ columns.first() }, QStringLiteral("="));
     bool found = false;
-    if (!position(selectSql(where, Direction::Forward), { bound }, &found))
+    if (!position(selectSql(where, Direction::Forward), { stored }, &found))
         return false;
     if (!found) { // no current record; moves go on from where the key would stand
         m_onRecord = false;

@@ -1,9 +1,6 @@
 #include "core/TurkishText.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QLocale>
-#include <QStringList>
 
 namespace {
 
@@ -20,24 +17,29 @@ QString TurkishUpper(const QString &text)
     return turkish().toUpper(text);
 }
 
-QString AnySpelling(const QString &column, int placeholder)
+QStringList CaseSpellings(const QString &text)
 {
-    return QStringLiteral("%1 IN (SELECT value FROM json_each(?%2))").arg(column).arg(placeholder);
-}
-
-QString AnySpellingValue(const QString &text)
-{
+    // The whole text mapped once each way; a letter whose case form is not one letter (ß -> SS)
+    // keeps only its own spelling.
+    const QString upper = turkish().toUpper(text);
+    const QString lower = turkish().toLower(text);
+    const bool aligned = upper.size() == text.size() && lower.size() == text.size();
     QStringList spellings { QString() };
-    for (const QChar c : text) {
-        QStringList forms { QString(c) };
-        for (const QString &form : { turkish().toUpper(QString(c)), turkish().toLower(QString(c)) })
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        QString forms(text.at(i));
+        for (const QChar form : { aligned ? upper.at(i) : text.at(i), aligned ? lower.at(i) : text.at(i) })
             if (!forms.contains(form))
-                forms << form;
+                forms += form;
         QStringList longer;
-        for (const QString &start : spellings)
-            for (const QString &form : forms)
+        for (const QString &start : std::as_const(spellings))
+            for (const QChar form : forms)
                 longer << start + form;
         spellings = longer;
     }
-    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(spellings)).toJson(QJsonDocument::Compact));
+    return spellings;
+}
+
+QString AnySpelling(const QString &column, const QString &text)
+{
+    return QStringLiteral("%1 IN (SELECT value FROM json_each(spellings(%2)))").arg(column, text);
 }

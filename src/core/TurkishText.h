@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // The data file compares text as plain bytes, so that any SQLite tool reads it; the program
 // adds the Turkish sense where it sorts and compares: COLLATE TR in the SQL for order and
@@ -10,9 +11,11 @@
 // Upper case by the Turkish rules (i -> İ, ı -> I).
 QString TurkishUpper(const QString &text);
 
-// "column IN (…)": the column holds the text bound to ?placeholder in any of its Turkish case
-// spellings. Bind AnySpellingValue(text) to that placeholder.
-QString AnySpelling(const QString &column, int placeholder);
-// Every spelling of the text that differs only in case (the Turkish way), as the JSON array
-// AnySpelling reads. Meant for keys: a text of n letters has up to 2^n spellings.
-QString AnySpellingValue(const QString &text);
+// Every spelling of the text that differs only in case, the Turkish way ("ışık": "ışık",
+// "Işık", … "IŞIK"). Meant for keys: a text of n letters has 2^n spellings. A letter whose
+// case form is more than one letter (ß, SS) is taken as it stands.
+QStringList CaseSpellings(const QString &text);
+
+// "column IN (…)": the column holds `text` (an SQL expression: "?1", "s.kod") in any of its
+// case spellings; read through the column's index.
+QString AnySpelling(const QString &column, const QString &text);

@@ -6,6 +6,7 @@
 #include "core/AccessLayer.h"
 #include "core/Clock.h"
 #include "core/DataFiles.h"
+#include "core/TurkishText.h"
 #include "money/AmountConventions.h"
 #include "money/DayNumber.h"
 #include "money/FormatAmount.h"
@@ -92,14 +93,18 @@ void WithholdingListScreen::defineColumns()
 // last one.
 void WithholdingListScreen::listEntered()
 {
-    // The payer's card is found by the code's Turkish upper case, in any spelling of it.
+    // The payers in Turkish order, each with its card (found in any spelling of the code), then
+    // their rows by the (islem, cari, tarih) index.
     QString sql = QStringLiteral(
-        "WITH k AS MATERIALIZED (SELECT trupper(kod) AS anahtar, unv, vn, vd FROM carkart) "
-        "SELECT d.tarih AS donem, d.brut AS brut, d.stopaj AS vergi, k.unv AS adsoy, k.vn AS verno, k.vd AS verda "
-        "FROM defter d LEFT JOIN k ON k.anahtar = trupper(d.cari) WHERE d.islem = 0 AND d.stopaj > 0");
+        "WITH p AS MATERIALIZED (SELECT c.cari AS cari, dense_rank() OVER (ORDER BY c.cari COLLATE TR) AS sira, "
+        "k.unv AS unv, k.vn AS vn, k.vd AS vd FROM (SELECT DISTINCT cari FROM defter WHERE islem = 0) c "
+        "LEFT JOIN carkart k ON %1) "
+        "SELECT d.tarih AS donem, d.brut AS brut, d.stopaj AS vergi, p.unv AS adsoy, p.vn AS verno, p.vd AS verda "
+        "FROM p JOIN defter d ON d.islem = 0 AND d.cari IS p.cari WHERE d.stopaj > 0")
+                      .arg(AnySpelling(QStringLiteral("k.kod"), QStringLiteral("c.cari")));
     QVariantList values;
     sql += DateBounds(QStringLiteral("d.tarih"), m_dates[0], m_dates[1], values);
-    sql += QStringLiteral(" ORDER BY d.cari COLLATE TR, d.tarih, d.oto");
+    sql += QStringLiteral(" ORDER BY p.sira, d.tarih, d.oto");
     const QString query = sql + QStringLiteral("|") + QVariant(values).toStringList().join(u',');
     if (query == m_lastQuery)
         return;
