@@ -1,13 +1,16 @@
 // The account screens on the synthetic book: listing the account of 30,000 transactions into
 // "Cari Hareketler" (grid, running balance and panel), listing a day into "Kasa Defteri" (its
-// rows and the carry-over of every day before), and storing a typed row. Each beside the raw
-// engine doing the same reads in the same run, with the plan the engine would use at best.
+// rows and the carry-over of every day before), storing a typed row, finding a card by a code
+// typed in lower case and stepping to the next card in Turkish order. Each beside the raw
+// engine doing the same reads in the same run (for the cards: by the stored bytes, as the file's
+// index has them), with the plan the engine would use at best.
 
 #include "accounts/AccountTransactionsScreen.h"
 #include "accounts/CashBookScreen.h"
 #include "controls/DcCellEditor.h"
 #include "controls/DcList.h"
 #include "controls/XText.h"
+#include "core/AccessLayer.h"
 #include "core/DataFiles.h"
 #include "core/SqlFunctions.h"
 #include "money/AmountConventions.h"
@@ -38,6 +41,8 @@ const char *accountSql = "SELECT * FROM carhar WHERE kod = ?1 ORDER BY tarih, is
 const char *daySql = "SELECT * FROM carhar WHERE islem IN (1, 3) AND tarih = ?1 ORDER BY ba, oto";
 const char *carrySql = "SELECT sum(tutar * (ba <> 0)), sum(tutar * (ba = 0)) FROM carhar "
                        "WHERE islem IN (1, 3) AND tarih < ?1";
+const char *cardSql = "SELECT * FROM carkart WHERE kod = ?1";
+const char *nextCardSql = "SELECT * FROM carkart WHERE kod > ?1 ORDER BY kod LIMIT 1";
 
 void press(QWidget *target, int key, const QString &text = QString())
 {
@@ -104,6 +109,19 @@ int main(int argc, char *argv[])
     });
     sqlite3_finalize(insert);
 
+    // A card by its code typed in lower case, and from it the next card.
+    const QString middle = accountCode(accounts / 2);
+    const double seekCard = medianMicroseconds(101, [&] { CariExists(middle.toLower()); }) * 1000; // per 1,000
+    const double nextCard = medianMicroseconds(101, [&] {
+        CariExists(middle);
+        RsNext(*dataFiles().carkart);
+    });
+    const double rawCard = medianMicroseconds(101, [&] { readAll(raw, cardSql, { middle }); }) * 1000;
+    const double rawNextCard = medianMicroseconds(101, [&] {
+        readAll(raw, cardSql, { middle });
+        readAll(raw, nextCardSql, { middle });
+    });
+
     // The engine at its best for the same results: covering indexes for both listings.
     const double rawAccountBefore = rawAccount;
     sqlite3_exec(raw, "CREATE INDEX best_account ON carhar (kod, tarih, islem, ba, oto, evrak, ack, tutar)", nullptr,
@@ -120,5 +138,8 @@ int main(int argc, char *argv[])
         "<= 100 ms");
     printRow(QStringLiteral("Cari Hareketler: store a typed row (%1 stored)").arg(stored), store, rawInsert, rawInsert,
         "<= 5 ms");
+    printRow(QStringLiteral("Cari kart: 1,000 codes typed in lower case"), seekCard, rawCard, rawCard, "<= 1 s");
+    printRow(QStringLiteral("Cari Kartlar: the next of %1 cards").arg(accounts), nextCard, rawNextCard, rawNextCard,
+        "<= 50 ms");
     return 0;
 }
