@@ -14,6 +14,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <sqlite3.h>
@@ -67,6 +68,46 @@ qint64 aggregateRaw(sqlite3 *db)
         total += sqlite3_column_int64(stmt, 1);
     sqlite3_finalize(stmt);
     return total;
+}
+
+// The same book as earlier versions made it, its text columns declared with the collation TR
+// (tables, rows, then indexes, as a filled book would have them), in `folder`.
+bool writeOldBook(const QString &book, const QString &folder)
+{
+    sqlite3 *db = nullptr;
+    const QByteArray path = QDir(folder).filePath(QStringLiteral("xsmm.dat")).toUtf8();
+    bool made = sqlite3_open_v2(path.constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) == SQLITE_OK
+        && registerSqlFunctions(db)
+        && sqlite3_exec(db, ("ATTACH '" + book.toUtf8() + "' AS plain").constData(), nullptr, nullptr, nullptr)
+            == SQLITE_OK;
+    std::vector<QByteArray> steps;
+    sqlite3_stmt *schema = nullptr;
+    sqlite3_prepare_v2(db,
+        "SELECT type, name, sql FROM plain.sqlite_master WHERE sql NOT NULL AND name NOT LIKE 'sqlite%' "
+        "ORDER BY type DESC",
+        -1, &schema, nullptr);
+    std::vector<QByteArray> indexes;
+    while (sqlite3_step(schema) == SQLITE_ROW) {
+        const QString sql = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(schema, 2)));
+        const QByteArray name = reinterpret_cast<const char *>(sqlite3_column_text(schema, 1));
+        if (qstrcmp(reinterpret_cast<const char *>(sqlite3_column_text(schema, 0)), "table") != 0) {
+            indexes.push_back(sql.toUtf8());
+            continue;
+        }
+        steps.push_back(
+            QString(sql)
+                .replace(QRegularExpression(QStringLiteral("(TEXT\\(\\d+\\))")), QStringLiteral("\\1 COLLATE TR"))
+                .toUtf8());
+        steps.push_back("INSERT INTO main." + name + " SELECT * FROM plain." + name);
+    }
+    sqlite3_finalize(schema);
+    steps.insert(steps.end(), indexes.begin(), indexes.end());
+    for (const QByteArray &step : steps)
+        made = made && sqlite3_exec(db, step.constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    if (!made)
+        std::fprintf(stderr, "%s\n", sqlite3_errmsg(db));
+    sqlite3_close(db);
+    return made;
 }
 
 } // namespace
@@ -141,6 +182,26 @@ int main(int argc, char *argv[])
     });
     const double fileMb = double(QFileInfo(DataFilePath()).size()) / 1e6;
 
+    // A book of an earlier version is converted once, at its first opening (its copy into yedek/
+    // first); beside it, the engine rewriting the same file whole (VACUUM INTO).
+    QTemporaryDir oldFolder;
+    CloseDataFiles();
+    if (!writeOldBook(DataFilePath(), oldFolder.path())) {
+        std::fprintf(stderr, "cannot write the book of the collation TR\n");
+        return 1;
+    }
+    SetProgramFolder(oldFolder.path());
+    QElapsedTimer convertTimer;
+    convertTimer.start();
+    const bool converted = OpenDataFiles()
+        && dataFiles().db->texts(QStringLiteral("SELECT count(*) FROM sqlite_master WHERE sql LIKE '%COLLATE TR%'"))
+            == QStringList { QStringLiteral("0") };
+    const double convert = double(convertTimer.nsecsElapsed()) / 1000.0;
+    const double rewrite = medianMicroseconds(1, [&] {
+        dataFiles().db->run(QStringLiteral("VACUUM INTO '%1'").arg(oldFolder.filePath(QStringLiteral("yeni.dat"))));
+    });
+    CloseDataFiles();
+
     std::printf("%-52s %12s %10s\n", "operation (median)", "time", "target");
     std::printf("%-52s %9.1f us %10s\n", "RsSeek on carhar.oto", seek, "<= 50 us");
     std::printf("%-52s %9.1f ms %10s\n",
@@ -156,6 +217,9 @@ int main(int argc, char *argv[])
     std::printf("%-52s %9.1f ms %10s\n", "  of which PRAGMA quick_check on the raw engine", quickCheck / 1000.0, "");
     std::printf("%-52s %9.1f ms %10s\n", "online backup into yedek/", copy / 1000.0, "");
     std::printf("%-52s %9.1f ms %10s\n", "  a plain file copy of the same file", fileCopy / 1000.0, "");
+    std::printf("%-52s %9.1f ms %10s\n", "first opening of the book of an earlier version", convert / 1000.0,
+        converted ? "(converted)" : "(NOT converted)");
+    std::printf("%-52s %9.1f ms %10s\n", "  VACUUM INTO of the same book on the engine", rewrite / 1000.0, "");
     if (layerTotal != rawTotal) {
         std::fprintf(stderr, "the two aggregates differ: %lld and %lld\n", layerTotal, rawTotal);
         return 1;

@@ -172,12 +172,15 @@ QStringList rebuildSteps(Database &db, const TableSpec &spec)
              QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' AND tbl_name = '%1' AND sql NOT NULL")
                  .arg(name)))
         steps << QStringLiteral("DROP INDEX \"%1\"").arg(index);
-    steps << defineTable(db, spec)->creationSql();
+    // The table, its rows, then its indexes: built from sorted rows rather than row by row.
+    const QStringList creation = defineTable(db, spec)->creationSql();
+    steps << creation.first();
     steps << QStringLiteral("INSERT INTO \"%1\" (%3) SELECT %3 FROM \"%2\"").arg(name, old, columns.join(u','));
     // The renamed table took its counter along; the new table gets it back.
     steps << QStringLiteral("DELETE FROM sqlite_sequence WHERE name = '%1'").arg(name);
     steps << QStringLiteral("UPDATE sqlite_sequence SET name = '%1' WHERE name = '%2'").arg(name, old);
     steps << QStringLiteral("DROP TABLE \"%1\"").arg(old);
+    steps << creation.mid(1);
     return steps;
 }
 

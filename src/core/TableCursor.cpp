@@ -133,8 +133,8 @@ QString TableCursor::orderTerms(const QStringList &columns, const QString &suffi
 {
     QStringList terms;
     for (const QString &column : columns) {
-        const bool text = column != rowidColumn && field(fieldIndex(column)).isText();
-        terms << quoted(column) + (text ? QStringLiteral(" COLLATE TR") : QString()) + suffix;
+        const bool turkish = m_turkishOrder && column != rowidColumn && field(fieldIndex(column)).isText();
+        terms << quoted(column) + (turkish ? QStringLiteral(" COLLATE TR") : QString()) + suffix;
     }
     return terms.join(QStringLiteral(", "));
 }
@@ -253,6 +253,7 @@ bool TableCursor::seek(const QString &indexName, const QVariant &key)
     m_order = columns;
     if (!field(fieldIndex(columns.last())).autoNumber)
         m_order << rowidColumn;
+    m_turkishOrder = columns.size() == 1 && m_uniqueTexts.contains(columns.first());
 
     // A text key is found in any of its case spellings, through the index.
     const bool text = field(fieldIndex(columns.first())).isText();

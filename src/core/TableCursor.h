@@ -10,9 +10,9 @@
 class Database;
 class Statement;
 
-// A cursor on one table that never loads it: every move and seek is one indexed look-up
-// relative to the key of the current position, in the order of the selected index (by row
-// number while none is selected).
+// A cursor on one table that never loads it: every move and seek is one look-up relative to
+// the key of the current position, in the order of the selected index (by row number while
+// none is selected).
 class TableCursor : public Recordset
 {
 public:
@@ -43,7 +43,10 @@ private:
     TableCursor(Database &db, const QString &table);
     bool loadSchema();
     Statement *statement(const QString &sql);
-    // The columns as ORDER BY terms: text in Turkish order.
+    // The columns as ORDER BY terms. A text key (a unique index of one text column: cards,
+    // parameters) is walked in Turkish order, which the engine finds without its index (a scan of
+    // a small table); the lookup indexes of the large tables are walked in the order of their
+    // stored bytes, through the index.
     QString orderTerms(const QStringList &columns, const QString &suffix = QString()) const;
     // "c > ?1" for one column, "(c1, c2) > (?1, ?2)" for more, in the order of orderTerms.
     QString comparison(const QStringList &columns, const QString &op) const;
@@ -63,6 +66,7 @@ private:
     QString m_columns; // the select list: row number, then every field
     std::map<QString, QStringList> m_indexes; // index name (lower case) -> its columns
     QStringList m_uniqueTexts; // text columns that a unique index of their own keys
+    bool m_turkishOrder = false; // the selected index is one of those keys
     QStringList m_order; // columns that order the cursor, ending in a unique one
     QVariantList m_key; // the position: values of a prefix of m_order
     bool m_onRecord = false;
