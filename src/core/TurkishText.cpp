@@ -19,9 +19,9 @@ QString TurkishUpper(const QString &text)
 
 QStringList CaseSpellings(const QString &text)
 {
-    // The whole text mapped once each way; a letter whose case form is not one letter (ß -> SS)
-    // keeps only its own spelling.
-    const QString upper = turkish().toUpper(text);
+    // The whole text mapped once each way, letter by letter; a text whose case forms differ in
+    // length (ß -> SS) is sought only as it stands.
+    const QString upper = TurkishUpper(text);
     const QString lower = turkish().toLower(text);
     const bool aligned = upper.size() == text.size() && lower.size() == text.size();
     QStringList spellings { QString() };

@@ -12,8 +12,8 @@
 QString TurkishUpper(const QString &text);
 
 // Every spelling of the text that differs only in case, the Turkish way ("ışık": "ışık",
-// "Işık", … "IŞIK"). Meant for keys: a text of n letters has 2^n spellings. A letter whose
-// case form is more than one letter (ß, SS) is taken as it stands.
+// "Işık", … "IŞIK"). Meant for keys: a text of n letters has 2^n spellings. A text whose case
+// forms differ in length from it (ß, SS) has only its own spelling.
 QStringList CaseSpellings(const QString &text);
 
 // "column IN (…)": the column holds `text` (an SQL expression: "?1", "s.kod") in any of its
