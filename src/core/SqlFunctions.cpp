@@ -53,13 +53,6 @@ void partOfDayNumber(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_int(context, part == DatePart::Year ? date.year() : date.month());
 }
 
-bool addDatePart(sqlite3 *db, const char *name, const DatePart &part)
-{
-    return sqlite3_create_function_v2(db, name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, const_cast<DatePart *>(&part),
-               partOfDayNumber, nullptr, nullptr, nullptr)
-        == SQLITE_OK;
-}
-
 QString textArgument(sqlite3_value *value)
 {
     const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(value));
@@ -88,11 +81,12 @@ void caseSpellings(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_text(context, json.constData(), int(json.size()), SQLITE_TRANSIENT);
 }
 
-bool addFunction(
-    sqlite3 *db, const char *name, int arguments, void (*function)(sqlite3_context *, int, sqlite3_value **))
+// A deterministic function; `data` is what sqlite3_user_data gives it.
+bool addFunction(sqlite3 *db, const char *name, int arguments,
+    void (*function)(sqlite3_context *, int, sqlite3_value **), const void *data = nullptr)
 {
-    return sqlite3_create_function_v2(
-               db, name, arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, function, nullptr, nullptr, nullptr)
+    return sqlite3_create_function_v2(db, name, arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC, const_cast<void *>(data),
+               function, nullptr, nullptr, nullptr)
         == SQLITE_OK;
 }
 
@@ -103,6 +97,6 @@ bool registerSqlFunctions(sqlite3 *db)
     static const DatePart year = DatePart::Year;
     static const DatePart month = DatePart::Month;
     return sqlite3_create_collation_v2(db, "TR", SQLITE_UTF8, nullptr, compareTurkish, nullptr) == SQLITE_OK
-        && addDatePart(db, "year", year) && addDatePart(db, "month", month)
+        && addFunction(db, "year", 1, partOfDayNumber, &year) && addFunction(db, "month", 1, partOfDayNumber, &month)
         && addFunction(db, "startsWith", 2, startsWithTurkish) && addFunction(db, "spellings", 1, caseSpellings);
 }
