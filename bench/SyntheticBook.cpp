@@ -1,7 +1,7 @@
 #include "SyntheticBook.h"
 
-#include "core/DataFiles.h"
-#include "core/SqlFunctions.h"
+#include "books/DataFiles.h"
+#include "books/SqlFunctions.h"
 #include "money/DayNumber.h"
 
 #include <QElapsedTimer>

@@ -8,10 +8,10 @@
 
 #include "accounts/AccountStatementScreen.h"
 #include "accounts/DebitCreditScreen.h"
-#include "controls/ListWindow.h"
+#include "books/Parameters.h"
 #include "controls/DcList.h"
+#include "controls/ListWindow.h"
 #include "controls/XText.h"
-#include "core/Parameters.h"
 #include "money/AmountConventions.h"
 #include "printing/DosPrint.h"
 #include "printing/PrintSettings.h"

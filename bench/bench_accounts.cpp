@@ -7,12 +7,12 @@
 
 #include "accounts/AccountTransactionsScreen.h"
 #include "accounts/CashBookScreen.h"
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
+#include "books/SqlFunctions.h"
 #include "controls/DcCellEditor.h"
 #include "controls/DcList.h"
 #include "controls/XText.h"
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
-#include "core/SqlFunctions.h"
 #include "money/AmountConventions.h"
 #include "money/DayNumber.h"
 

@@ -1,10 +1,10 @@
 // The data store on the synthetic book. Prints medians of the access layer's everyday work, and the general
 // debit/credit aggregate through QueryOpen beside the same statement on the raw engine.
 
-#include "core/AccessLayer.h"
-#include "core/Backups.h"
-#include "core/DataFiles.h"
-#include "core/SqlFunctions.h"
+#include "books/AccessLayer.h"
+#include "books/Backups.h"
+#include "books/DataFiles.h"
+#include "books/SqlFunctions.h"
 #include "money/DayNumber.h"
 
 #include "SyntheticBook.h"

@@ -4,12 +4,12 @@
 // engine doing the same reads in the same run and the plan the engine would use at best; then
 // the official book's income pages printed on a dot-matrix channel that takes the bytes.
 
+#include "books/Clock.h"
+#include "books/DataFiles.h"
+#include "books/Parameters.h"
+#include "books/SqlFunctions.h"
 #include "controls/DcList.h"
 #include "controls/XText.h"
-#include "core/Clock.h"
-#include "core/DataFiles.h"
-#include "core/Parameters.h"
-#include "core/SqlFunctions.h"
 #include "ledger/LedgerScreen.h"
 #include "ledger/MonthlyReportScreen.h"
 #include "ledger/OfficialLedgerList.h"

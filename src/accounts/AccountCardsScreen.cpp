@@ -2,13 +2,13 @@
 
 #include "accounts/AccountLookup.h"
 #include "accounts/BalancePanel.h"
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
+#include "books/Message.h"
+#include "books/TurkishText.h"
+#include "controls/ShrinkEffect.h"
 #include "controls/ValueLabel.h"
 #include "controls/XText.h"
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
-#include "core/Message.h"
-#include "core/ShrinkEffect.h"
-#include "core/TurkishText.h"
 #include "money/AmountConventions.h"
 
 #include <QGridLayout>

@@ -1,11 +1,11 @@
 #include "accounts/AccountLookup.h"
 
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
 #include "controls/DcList.h"
+#include "controls/OpenInMain.h"
+#include "controls/Screen.h"
 #include "controls/XText.h"
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
-#include "core/OpenInMain.h"
-#include "core/Screen.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

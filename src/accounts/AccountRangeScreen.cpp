@@ -1,9 +1,9 @@
 #include "accounts/AccountRangeScreen.h"
 
 #include "accounts/AccountLookup.h"
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
 #include "controls/XText.h"
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
 #include "printing/PrintSettings.h"
 #include "printing/Prnx.h"
 

@@ -1,9 +1,9 @@
 #include "accounts/BalancePanel.h"
 
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
+#include "books/TurkishText.h"
 #include "controls/ValueLabel.h"
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
-#include "core/TurkishText.h"
 #include "money/FormatAmount.h"
 
 #include <QGridLayout>

@@ -1,12 +1,12 @@
 #include "controls/DcList.h"
 
+#include "books/Clock.h"
+#include "books/Message.h"
 #include "controls/DcCellEditor.h"
 #include "controls/DcListModel.h"
 #include "controls/EntryRules.h"
 #include "controls/QuickFont.h"
 #include "controls/SpreadsheetExport.h"
-#include "core/Clock.h"
-#include "core/Message.h"
 
 #include <QApplication>
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #include "controls/GridFill.h"
 
+#include "books/AccessLayer.h"
 #include "controls/DcList.h"
-#include "core/AccessLayer.h"
 #include "money/Currency.h"
 #include "money/DayNumber.h"
 

@@ -1,7 +1,7 @@
 #include "controls/PostingGridScreen.h"
 
+#include "books/Message.h"
 #include "controls/DcList.h"
-#include "core/Message.h"
 
 #include <QTableView>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/Postings.h"
-#include "core/Screen.h"
+#include "books/Postings.h"
+#include "controls/Screen.h"
 #include "money/Currency.h"
 
 class DcList;

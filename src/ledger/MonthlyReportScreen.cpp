@@ -1,9 +1,9 @@
 #include "ledger/MonthlyReportScreen.h"
 
+#include "books/AccessLayer.h"
+#include "books/Clock.h"
+#include "books/DataFiles.h"
 #include "controls/DcList.h"
-#include "core/AccessLayer.h"
-#include "core/Clock.h"
-#include "core/DataFiles.h"
 #include "money/AmountConventions.h"
 #include "money/Currency.h"
 #include "money/DayNumber.h"

@@ -1,8 +1,8 @@
 #include "ledger/OfficialLedgerList.h"
 
+#include "books/Message.h"
+#include "books/Parameters.h"
 #include "controls/DcList.h"
-#include "core/Message.h"
-#include "core/Parameters.h"
 #include "money/AmountConventions.h"
 #include "printing/PagedReport.h"
 #include "printing/PrintSettings.h"

@@ -1,19 +1,19 @@
 #include "ledger/OfficialLedgerScreen.h"
 
+#include "books/AccessLayer.h"
+#include "books/Clock.h"
+#include "books/DataFiles.h"
 #include "controls/DcList.h"
+#include "controls/OpenInMain.h"
 #include "controls/XText.h"
-#include "core/AccessLayer.h"
-#include "core/Clock.h"
-#include "core/DataFiles.h"
-#include "core/OpenInMain.h"
 #include "ledger/OfficialLedgerList.h"
 #include "money/DayNumber.h"
 #include "printing/PrintPreset.h"
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>

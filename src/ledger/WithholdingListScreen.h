@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Screen.h"
+#include "controls/Screen.h"
 #include "money/Currency.h"
 
 class DcList;

@@ -1,7 +1,7 @@
 #include "receipts/DepositScreen.h"
 
+#include "books/Parameters.h"
 #include "controls/XText.h"
-#include "core/Parameters.h"
 #include "money/FormatAmount.h"
 #include "printing/PrintPreset.h"
 #include "printing/Prnx.h"

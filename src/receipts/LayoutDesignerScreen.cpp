@@ -1,9 +1,9 @@
 #include "receipts/LayoutDesignerScreen.h"
 
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
+#include "books/Message.h"
 #include "controls/XText.h"
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
-#include "core/Message.h"
 #include "receipts/ReceiptPage.h"
 
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #include "receipts/ReceiptPage.h"
 
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
 #include "money/AmountInWords.h"
 #include "money/FormatAmount.h"
 #include "printing/Prnx.h"

@@ -1,7 +1,7 @@
+#include "books/Clock.h"
 #include "controls/DcCellEditor.h"
 #include "controls/DcList.h"
 #include "controls/SpreadsheetExport.h"
-#include "core/Clock.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/ScreenFixture.h"
 #include "testsupport/SheetCells.h"

@@ -1,7 +1,7 @@
+#include "books/Clock.h"
 #include "controls/DcList.h"
 #include "controls/SpreadsheetExport.h"
 #include "controls/XText.h"
-#include "core/Clock.h"
 #include "ledger/WithholdingListScreen.h"
 #include "money/AmountConventions.h"
 #include "money/DayNumber.h"

@@ -1,12 +1,9 @@
 #include "controls/XText.h"
-#include "core/MainWindow.h"
 #include "receipts/LayoutDesignerScreen.h"
 #include "receipts/ReceiptPage.h"
 #include "testsupport/Books.h"
-#include "testsupport/MessageLog.h"
-#include "testsupport/ProgramWindow.h"
 #include "testsupport/QueryTexts.h"
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/ScreenFixture.h"
 #include "testsupport/Typing.h"
 
 #include <QComboBox>
@@ -33,27 +30,21 @@ private:
     QStringList entries() const;
     void addRow(int item, const QString &width, const QString &column, const QString &line, const QString &text);
 
-    std::unique_ptr<MessageLog> m_messages;
-    std::unique_ptr<TestDataFolder> m_folder;
-    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<ScreenFixture> m_fixture;
     QPointer<LayoutDesignerScreen> m_screen;
 };
 
 void TestLayoutDesigner::init()
 {
-    m_messages = std::make_unique<MessageLog>();
-    m_folder = std::make_unique<TestDataFolder>();
-    QVERIFY(m_folder->isReady());
-    m_window = ShowProgramWindow();
-    m_screen = OpenFromMenu<LayoutDesignerScreen>(*m_window, "mnudiz", "Form14");
+    m_fixture = std::make_unique<ScreenFixture>();
+    QVERIFY(m_fixture->isReady());
+    m_screen = m_fixture->open<LayoutDesignerScreen>("mnudiz", "Form14");
     QVERIFY(m_screen);
 }
 
 void TestLayoutDesigner::cleanup()
 {
-    m_window.reset();
-    m_folder.reset();
-    m_messages.reset();
+    m_fixture.reset();
 }
 
 QStringList TestLayoutDesigner::entries() const
@@ -135,16 +126,16 @@ void TestLayoutDesigner::deleteAsksFirst()
 {
     addRow(1, QStringLiteral("20"), QStringLiteral("5"), QStringLiteral("3"), QString());
     field(0)->setValue(1);
-    m_messages->answerNext(false);
+    m_fixture->messages().answerNext(false);
     m_screen->findChild<QPushButton *>(QStringLiteral("sil"))->click();
-    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Kayıt Silinecek ?") });
+    QCOMPARE(m_fixture->messages().texts(), QStringList { QStringLiteral("Kayıt Silinecek ?") });
     QCOMPARE(entries().size(), 1);
-    m_messages->answerNext(true);
+    m_fixture->messages().answerNext(true);
     m_screen->findChild<QPushButton *>(QStringLiteral("sil"))->click();
     QCOMPARE(entries(), QStringList());
     field(0)->setValue(5);
     m_screen->findChild<QPushButton *>(QStringLiteral("sil"))->click(); // no such row: nothing asked
-    QCOMPARE(m_messages->entries().size(), 2);
+    QCOMPARE(m_fixture->messages().entries().size(), 2);
 }
 
 void TestLayoutDesigner::enterInTheItemListMovesOn()
@@ -161,7 +152,7 @@ void TestLayoutDesigner::refusedRowIsReported()
 {
     QVERIFY(RefuseWrites(QStringLiteral("duzen"), QStringLiteral("INSERT")));
     addRow(1, QStringLiteral("20"), QStringLiteral("5"), QStringLiteral("3"), QString());
-    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Kayıt Yapılamıyor.") });
+    QCOMPARE(m_fixture->messages().texts(), QStringList { QStringLiteral("Kayıt Yapılamıyor.") });
     QCOMPARE(entries(), QStringList());
     QCOMPARE(field(2)->Text(), QStringLiteral("5")); // what was typed stays for another try
 }

@@ -1,8 +1,8 @@
 #include "testsupport/Books.h"
 
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
-#include "core/Postings.h"
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
+#include "books/Postings.h"
 
 bool AddCard(const QString &code, const QString &title, const QString &taxNumber, const QString &taxOffice, int tip)
 {

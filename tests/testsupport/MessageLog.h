@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Message.h"
+#include "books/Message.h"
 
 #include <QList>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "testsupport/QueryTexts.h"
 
-#include "core/AccessLayer.h"
-#include "core/DataFiles.h"
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
 
 QStringList QueryTexts(const QString &sql, const QString &field, const QVariantList &values)
 {

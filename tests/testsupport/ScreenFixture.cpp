@@ -1,12 +1,13 @@
 #include "testsupport/ScreenFixture.h"
 
+#include "app/ProgramScreens.h"
+#include "books/Clock.h"
 #include "controls/DcCellEditor.h"
 #include "controls/DcList.h"
+#include "controls/Translations.h"
 #include "controls/XText.h"
-#include "core/Clock.h"
 #include "printing/PrintSettings.h"
 #include "printing/PrinterSetupDialog.h"
-#include "testsupport/ProgramWindow.h"
 #include "testsupport/Typing.h"
 
 #include <QPushButton>
@@ -30,10 +31,18 @@ ScreenFixture::~ScreenFixture()
         SetToday(QDate());
 }
 
+// The main window with every screen of the program, shown and active, as after start-up.
 MainWindow &ScreenFixture::window()
 {
-    if (!m_window)
-        m_window = ShowProgramWindow();
+    if (m_window)
+        return *m_window;
+    LoadQtTranslations(); // Qt's own texts in Turkish, as the program shows them
+    m_window = std::make_unique<MainWindow>();
+    AddProgramScreens(*m_window);
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    if (!QTest::qWaitForWindowActive(m_window.get()))
+        qWarning("the main window did not become active");
     return *m_window;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/MainWindow.h"
+#include "app/MainWindow.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/TestDataFolder.h"
 

@@ -1,7 +1,7 @@
 #include "testsupport/TestDataFolder.h"
 
-#include "core/DataFiles.h"
-#include "core/Parameters.h"
+#include "books/DataFiles.h"
+#include "books/Parameters.h"
 
 TestDataFolder::TestDataFolder()
 {

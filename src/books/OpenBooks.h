@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+// The books as the program starts on them, windows aside: number conventions, the data file in
+// programFolder (opened, or created and opened), a copy into yedek/ and the parameters. False
+// (after "Dosyalar Yaratılamıyor...") when the data file can be neither opened nor created, or
+// after saying why an existing file is left alone (in use by another program, not ours, damaged).
+bool OpenBooks(const QString &programFolder);

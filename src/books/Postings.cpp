@@ -1,0 +1,130 @@
+#include "books/Postings.h"
+
+#include "books/AccessLayer.h"
+#include "books/DataFiles.h"
+#include "money/RoundAmount.h"
+
+namespace {
+
+const QString otoIndex = QStringLiteral("oto");
+
+// Amounts are stored as they are shown and printed: rounded to the decimals of the parameters.
+QVariant storedAmount(Currency amount)
+{
+    return QVariant::fromValue(RoundAmount(amount));
+}
+
+void writeFields(Recordset &rs, const AccountPosting &p)
+{
+    FieldWrite(rs, QStringLiteral("kod"), p.kod);
+    FieldWrite(rs, QStringLiteral("tarih"), p.tarih);
+    FieldWrite(rs, QStringLiteral("islem"), p.islem);
+    FieldWrite(rs, QStringLiteral("evrak"), p.evrak);
+    FieldWrite(rs, QStringLiteral("ack"), p.ack);
+    FieldWrite(rs, QStringLiteral("ba"), p.ba);
+    FieldWrite(rs, QStringLiteral("tutar"), storedAmount(p.tutar));
+}
+
+void writeFields(Recordset &rs, const LedgerPosting &p)
+{
+    FieldWrite(rs, QStringLiteral("sira"), p.sira);
+    FieldWrite(rs, QStringLiteral("tarih"), p.tarih);
+    FieldWrite(rs, QStringLiteral("islem"), p.islem);
+    FieldWrite(rs, QStringLiteral("evrak"), p.evrak);
+    FieldWrite(rs, QStringLiteral("cari"), p.cari);
+    FieldWrite(rs, QStringLiteral("ack"), p.ack);
+    FieldWrite(rs, QStringLiteral("brut"), storedAmount(p.brut));
+    FieldWrite(rs, QStringLiteral("stopaj"), storedAmount(p.stopaj));
+    FieldWrite(rs, QStringLiteral("fon"), storedAmount(p.fon));
+    FieldWrite(rs, QStringLiteral("kdv"), storedAmount(p.kdv));
+}
+
+// The new row's oto is its row number in the engine, so no cursor move is needed to learn it
+// (a move to the last record fails right after a seek that found nothing).
+template <typename Posting> qint64 add(Recordset &rs, const Posting &posting)
+{
+    if (!RsAddNew(rs))
+        return 0;
+    writeFields(rs, posting);
+    return RsUpdate(rs) ? LastAddedKey(*dataFiles().db) : 0;
+}
+
+template <typename Posting> bool change(Recordset &rs, qint64 oto, const Posting &posting)
+{
+    if (oto <= 0 || !RsSeek(rs, otoIndex, oto) || !RsEdit(rs))
+        return false;
+    writeFields(rs, posting);
+    return RsUpdate(rs);
+}
+
+Recordset &table(PostingBook book)
+{
+    return book == PostingBook::Accounts ? *dataFiles().carhar : *dataFiles().defter;
+}
+
+template <typename Posting> qint64 store(Recordset &rs, qint64 oto, const Posting &posting)
+{
+    if (oto > 0 && RsSeek(rs, otoIndex, oto))
+        return change(rs, oto, posting) ? oto : 0;
+    return add(rs, posting);
+}
+
+} // namespace
+
+qint64 AddAccountPosting(const AccountPosting &posting)
+{
+    return add(*dataFiles().carhar, posting);
+}
+
+qint64 AddLedgerPosting(const LedgerPosting &posting)
+{
+    return add(*dataFiles().defter, posting);
+}
+
+bool ChangeAccountPosting(qint64 oto, const AccountPosting &posting)
+{
+    return change(*dataFiles().carhar, oto, posting);
+}
+
+bool ChangeLedgerPosting(qint64 oto, const LedgerPosting &posting)
+{
+    return change(*dataFiles().defter, oto, posting);
+}
+
+bool ReadLedgerPosting(qint64 oto, LedgerPosting *p)
+{
+    Recordset &rs = *dataFiles().defter;
+    if (oto <= 0 || !RsSeek(rs, otoIndex, oto))
+        return false;
+    p->sira = FieldRead(rs, QStringLiteral("sira")).toInt();
+    p->tarih = FieldRead(rs, QStringLiteral("tarih")).toDate();
+    p->islem = FieldRead(rs, QStringLiteral("islem")).toInt();
+    p->evrak = FieldRead(rs, QStringLiteral("evrak")).toString();
+    p->cari = FieldRead(rs, QStringLiteral("cari")).toString();
+    p->ack = FieldRead(rs, QStringLiteral("ack")).toString();
+    p->brut = FieldRead(rs, QStringLiteral("brut")).value<Currency>();
+    p->stopaj = FieldRead(rs, QStringLiteral("stopaj")).value<Currency>();
+    p->fon = FieldRead(rs, QStringLiteral("fon")).value<Currency>();
+    p->kdv = FieldRead(rs, QStringLiteral("kdv")).value<Currency>();
+    return true;
+}
+
+bool PostingExists(PostingBook book, qint64 oto)
+{
+    return oto > 0 && RsSeek(table(book), otoIndex, oto);
+}
+
+bool DeletePosting(PostingBook book, qint64 oto)
+{
+    return PostingExists(book, oto) && RsDelete(table(book));
+}
+
+qint64 StoreAccountPosting(qint64 oto, const AccountPosting &posting)
+{
+    return store(*dataFiles().carhar, oto, posting);
+}
+
+qint64 StoreLedgerPosting(qint64 oto, const LedgerPosting &posting)
+{
+    return store(*dataFiles().defter, oto, posting);
+}

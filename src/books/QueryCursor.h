@@ -1,0 +1,39 @@
+#pragma once
+
+#include "books/Recordset.h"
+
+#include <memory>
+
+class Database;
+
+// The rows of one SELECT, read once when it opens. Read-only: the listings read, the table
+// cursors write.
+class QueryCursor : public Recordset
+{
+public:
+    // nullptr when the engine refuses the statement or its values.
+    static std::unique_ptr<QueryCursor> open(Database &db, const QString &sql, const QVariantList &values);
+
+    bool moveFirst() override;
+    bool moveLast() override;
+    bool moveNext() override;
+    bool movePrevious() override;
+    qint64 count() override { return qint64(m_rows.size()); }
+
+    bool seek(const QString &, const QVariant &) override { return false; }
+    bool edit() override { return false; }
+    bool addNew() override { return false; }
+    bool update() override { return false; }
+    bool remove() override { return false; }
+    bool write(const QString &, const QVariant &) override { return false; }
+
+protected:
+    bool currentStored(int fieldIndex, QVariant *stored) const override;
+
+private:
+    QueryCursor() = default;
+    bool moveTo(qsizetype row);
+
+    std::vector<std::vector<QVariant>> m_rows;
+    qsizetype m_current = -1;
+};

@@ -1,0 +1,24 @@
+#include "books/Recordset.h"
+
+void Recordset::setFields(std::vector<FieldDef> fields)
+{
+    m_fields = std::move(fields);
+    m_byName.clear();
+    for (int i = 0; i < fieldCount(); ++i)
+        m_byName.insert(m_fields[size_t(i)].name.toLower(), i);
+}
+
+int Recordset::fieldIndex(const QString &name) const
+{
+    return m_byName.value(name.toLower(), -1);
+}
+
+bool Recordset::read(const QString &fieldName, QVariant *value) const
+{
+    const int index = fieldIndex(fieldName);
+    QVariant stored;
+    if (index < 0 || !currentStored(index, &stored))
+        return false;
+    *value = stored.isNull() ? field(index).nullReplacement() : field(index).fromStorage(stored);
+    return true;
+}

@@ -1,0 +1,67 @@
+#include "controls/OpenInMain.h"
+
+#include <QDialog>
+#include <QEventLoop>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+
+namespace {
+
+QPointer<QMdiArea> &mainArea()
+{
+    static QPointer<QMdiArea> area;
+    return area;
+}
+
+QMdiSubWindow *subWindowOf(QMdiArea *area, QWidget *screen)
+{
+    for (QMdiSubWindow *window : area->subWindowList())
+        if (window->widget() == screen)
+            return window;
+    return nullptr;
+}
+
+void showModally(QWidget *screen)
+{
+    if (auto *dialog = qobject_cast<QDialog *>(screen)) {
+        dialog->exec();
+        return;
+    }
+    screen->setWindowModality(Qt::ApplicationModal);
+    screen->show();
+    QEventLoop loop;
+    while (screen->isVisible())
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+    screen->setWindowModality(Qt::NonModal);
+}
+
+} // namespace
+
+void SetMainArea(QMdiArea *area)
+{
+    mainArea() = area;
+}
+
+QMdiArea *MainArea()
+{
+    return mainArea();
+}
+
+void OpenInMain(QWidget *screen, int mode)
+{
+    QMdiArea *area = mainArea();
+    if (!screen || !area)
+        return;
+    if (mode > 0)
+        showModally(screen);
+    QMdiSubWindow *window = subWindowOf(area, screen);
+    if (!window) {
+        window = area->addSubWindow(screen);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowIcon(area->window()->windowIcon());
+    }
+    window->show();
+    screen->show();
+    area->setActiveSubWindow(window);
+}

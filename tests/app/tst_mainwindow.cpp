@@ -1,0 +1,99 @@
+#include "app/MainWindow.h"
+#include "app/SplashWindow.h"
+#include "app/StartRoutine.h"
+#include "books/OpenBooks.h"
+#include "testsupport/MessageLog.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QtTest>
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+private slots:
+    void menuIsExactlyTheProgramsMenu();
+    void itemsWaitForTheirScreens();
+    void aScreenOpensOnceAndComesForward();
+    void splashGivesWayToTheMainWindow();
+};
+
+void TestMainWindow::menuIsExactlyTheProgramsMenu()
+{
+    MainWindow window;
+    QCOMPARE(window.objectName(), QStringLiteral("anamenu"));
+    QCOMPARE(window.windowTitle(), QStringLiteral("Serbest Meslek "));
+    QStringList menu;
+    for (QAction *top : window.menuBar()->actions()) {
+        menu << top->menu()->objectName() + u' ' + top->text();
+        for (QAction *item : top->menu()->actions())
+            menu << QStringLiteral("  ") + item->objectName() + u' '
+                    + (item->isSeparator() ? QStringLiteral("-") : item->text());
+    }
+    const QStringList expected = { "mnucari &Cari", "  mnucarkart Cari &Kartlar", "  mnubos1 -",
+        "  mnucarhar Cari &Hareketler", "  mnubos2 -", "  mnucareks Cari Hareket Dökümü", "  mnubos71 -",
+        "  mnugbor Genel &Borç Alacak Listesi", "mnuislem &Işlemler", "  mnukasa Kasa", "  mnubos7 -",
+        "  mnumkb Serbest Meslek &Makbuzu", "  mnubos4 -", "  mnuemanet &Emanet Makbuzu", "mnudefter &Defter",
+        "  mnusdef Serbest Meslek Defteri", "  mnubos6 -", "  mnukdv Kdv, Stopaj Raporu", "  mnubos10 -",
+        "  mnustoplst Stopaj Listesi", "  mnubos8 -", "  mnuresmi Resmi Defter Çekimi", "mnuayar Ayar",
+        "  mnuayarlar Ayarlar", "  mnubos9 -", "  mnudiz Makbuz Dizayn" };
+    QCOMPARE(menu, expected);
+}
+
+void TestMainWindow::itemsWaitForTheirScreens()
+{
+    MainWindow window;
+    QAction *item = window.menuItem(QStringLiteral("mnukasa"));
+    QVERIFY(item);
+    QVERIFY(!item->isEnabled());
+    window.addScreen(QStringLiteral("mnukasa"), [] { return new QWidget; });
+    QVERIFY(item->isEnabled());
+}
+
+void TestMainWindow::aScreenOpensOnceAndComesForward()
+{
+    MainWindow window;
+    window.show();
+    int made = 0;
+    QPointer<QWidget> last;
+    window.addScreen(QStringLiteral("mnukasa"), [&made, &last] {
+        ++made;
+        auto *screen = new QWidget;
+        last = screen;
+        screen->setWindowTitle(QStringLiteral("Kasa"));
+        return screen;
+    });
+    window.addScreen(QStringLiteral("mnuayarlar"), [] { return new QWidget; });
+    window.menuItem(QStringLiteral("mnukasa"))->trigger();
+    window.menuItem(QStringLiteral("mnuayarlar"))->trigger();
+    QCOMPARE(window.area()->subWindowList().size(), 2);
+    window.menuItem(QStringLiteral("mnukasa"))->trigger();
+    QCOMPARE(made, 1);
+    QCOMPARE(window.area()->subWindowList().size(), 2);
+    QCOMPARE(window.area()->activeSubWindow()->widget()->windowTitle(), QStringLiteral("Kasa"));
+
+    window.area()->activeSubWindow()->close(); // a closed screen is made afresh next time
+    QTRY_VERIFY(!last);
+    QCOMPARE(window.area()->subWindowList().size(), 1);
+    window.menuItem(QStringLiteral("mnukasa"))->trigger();
+    QCOMPARE(made, 2);
+}
+
+void TestMainWindow::splashGivesWayToTheMainWindow()
+{
+    MessageLog messages;
+    QTemporaryDir dir;
+    QVERIFY(OpenBooks(dir.path()));
+    StartRoutine start(200);
+    start.showSplash();
+    QVERIFY(start.splash());
+    QCOMPARE(start.splash()->windowTitle(), QStringLiteral("Serbest Meslek "));
+    QCOMPARE(start.splash()->size(), QSize(300, 170));
+    QVERIFY(!start.mainWindow());
+    QTRY_VERIFY(start.mainWindow() && start.mainWindow()->isVisible());
+    QTRY_VERIFY(!start.splash());
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"
