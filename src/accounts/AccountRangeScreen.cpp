@@ -3,6 +3,8 @@
 #include "accounts/AccountLookup.h"
 #include "books/AccessLayer.h"
 #include "books/DataFiles.h"
+#include "controls/DateBounds.h"
+#include "controls/RangeBox.h"
 #include "controls/XText.h"
 #include "printing/PrintSettings.h"
 #include "printing/Prnx.h"

@@ -1,6 +1,6 @@
 #include "accounts/AccountStatementScreen.h"
 
-#include "accounts/AccountTransactionsScreen.h"
+#include "accounts/TransactionTypeLabel.h"
 #include "books/AccessLayer.h"
 #include "books/DataFiles.h"
 #include "books/TurkishText.h"

@@ -3,6 +3,7 @@
 #include "accounts/AccountCardsScreen.h"
 #include "accounts/AccountLookup.h"
 #include "accounts/BalancePanel.h"
+#include "accounts/TransactionTypeLabel.h"
 #include "books/AccessLayer.h"
 #include "books/DataFiles.h"
 #include "books/Message.h"
@@ -24,9 +25,6 @@
 
 namespace {
 
-const char16_t *const typeLabels[] = { u"0-Devir", u"1-Nakit", u"2-SMM", u"3-Emanet", u"4-Çek", u"5-Senet", u"6-Maaş",
-    u"7-Masraf", u"8-Mutabakat", u"9-Diğer" };
-
 // The type code a type cell starts with; a blank or anything but a digit counts 0.
 int typeCode(const QString &text)
 {
@@ -34,17 +32,6 @@ int typeCode(const QString &text)
 }
 
 } // namespace
-
-QString TransactionTypeLabel(int islem)
-{
-    static const QStringList labels = [] {
-        QStringList texts;
-        for (const char16_t *label : typeLabels)
-            texts << QString::fromUtf16(label);
-        return texts;
-    }();
-    return labels.value(islem);
-}
 
 AccountTransactionsScreen::AccountTransactionsScreen(QWidget *parent)
     : PostingGridScreen(QStringLiteral("Form4"), QStringLiteral("Cari Hareketler"), PostingBook::Accounts, parent)
@@ -127,8 +114,8 @@ QFrame *AccountTransactionsScreen::makeTypePanel()
     panel->setFrameShape(QFrame::StyledPanel);
     auto *layout = new QHBoxLayout(panel);
     layout->setContentsMargins(4, 2, 4, 2);
-    for (const char16_t *label : typeLabels) {
-        auto *choice = new QPushButton(u' ' + QString::fromUtf16(label), panel);
+    for (int islem = 0; islem <= 9; ++islem) {
+        auto *choice = new QPushButton(u' ' + TransactionTypeLabel(islem), panel);
         choice->setFlat(true);
         choice->setFocusPolicy(Qt::NoFocus);
         connect(choice, &QPushButton::clicked, this, [this, choice] { list()->SetTextBox(choice->text().trimmed()); });

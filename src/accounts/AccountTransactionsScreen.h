@@ -52,6 +52,3 @@ private:
     std::vector<Sums> m_running;
     bool m_listing = false;
 };
-
-// The label of a transaction type: "0-Devir" … "9-Diğer"; "" outside 0-9.
-QString TransactionTypeLabel(int islem);

@@ -15,7 +15,7 @@
 
 namespace {
 
-struct FieldSpec
+struct FieldShape
 {
     const char16_t *name;
     FieldType type;
@@ -24,7 +24,7 @@ struct FieldSpec
     int attributes;
 };
 
-struct IndexSpec
+struct IndexShape
 {
     const char16_t *name;
     const char16_t *fields;
@@ -33,18 +33,18 @@ struct IndexSpec
     bool required;
 };
 
-struct TableSpec
+struct TableShape
 {
     const char16_t *name;
     const char16_t *createCaption;
     const char16_t *appendCaption;
-    std::vector<FieldSpec> fields;
-    std::vector<IndexSpec> indexes;
+    std::vector<FieldShape> fields;
+    std::vector<IndexShape> indexes;
 };
 
-const std::vector<TableSpec> &schema()
+const std::vector<TableShape> &schema()
 {
-    static const std::vector<TableSpec> tables = {
+    static const std::vector<TableShape> tables = {
         { u"genel", u"Genel ", u"Genel ",
             { { u"kod", FieldType::Text, 8, true, 0 }, { u"sing", FieldType::Single, 0, false, 0 },
                 { u"byt", FieldType::Byte, 0, false, 0 }, { u"integ", FieldType::Integer, 0, false, 0 },
@@ -97,29 +97,29 @@ QString &programFolder()
 }
 
 // The table's definition, or nullptr when it cannot be begun.
-std::unique_ptr<TableDef> defineTable(Database &db, const TableSpec &spec)
+std::unique_ptr<TableDef> defineTable(Database &db, const TableShape &shape)
 {
     std::unique_ptr<TableDef> table;
-    if (!TableCreate(db, table, QString::fromUtf16(spec.name)))
+    if (!TableCreate(db, table, QString::fromUtf16(shape.name)))
         return nullptr;
-    for (const FieldSpec &field : spec.fields)
+    for (const FieldShape &field : shape.fields)
         FieldCreate(*table, QString::fromUtf16(field.name), int(field.type), field.required, true, field.attributes,
             field.size);
-    for (const IndexSpec &index : spec.indexes)
+    for (const IndexShape &index : shape.indexes)
         IndexCreate(*table, QString::fromUtf16(index.name), QString::fromUtf16(index.fields), index.unique,
             index.primary, false, index.required);
     return table;
 }
 
-bool createTable(Database &db, const TableSpec &spec)
+bool createTable(Database &db, const TableShape &shape)
 {
-    const std::unique_ptr<TableDef> table = defineTable(db, spec);
+    const std::unique_ptr<TableDef> table = defineTable(db, shape);
     if (!table) {
-        Message::exclamation(QString::fromUtf16(spec.createCaption) + QStringLiteral("\nSql Tablosu Yaratılamadı."));
+        Message::exclamation(QString::fromUtf16(shape.createCaption) + QStringLiteral("\nSql Tablosu Yaratılamadı."));
         return false;
     }
     if (!TableAppend(db, *table)) {
-        Message::exclamation(QString::fromUtf16(spec.appendCaption) + QStringLiteral("\nSql Tablosu eklenemedi."));
+        Message::exclamation(QString::fromUtf16(shape.appendCaption) + QStringLiteral("\nSql Tablosu eklenemedi."));
         return false;
     }
     return true;
@@ -129,8 +129,8 @@ bool createTable(Database &db, const TableSpec &spec)
 // no row and no field.
 bool addMissingIndexes(Database &db)
 {
-    for (const TableSpec &table : schema())
-        for (const IndexSpec &index : table.indexes) {
+    for (const TableShape &table : schema())
+        for (const IndexShape &index : table.indexes) {
             if (index.unique || index.primary)
                 continue;
             QStringList columns;
@@ -150,7 +150,7 @@ bool addMissingIndexes(Database &db)
 QStringList tablesWithOwnCollation(Database &db)
 {
     QStringList tables;
-    for (const TableSpec &table : schema()) {
+    for (const TableShape &table : schema()) {
         const QString name = QString::fromUtf16(table.name);
         const QStringList sql
             = db.texts(QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'table' AND name = '%1'").arg(name));
@@ -160,12 +160,12 @@ QStringList tablesWithOwnCollation(Database &db)
     return tables;
 }
 
-QStringList rebuildSteps(Database &db, const TableSpec &spec)
+QStringList rebuildSteps(Database &db, const TableShape &shape)
 {
-    const QString name = QString::fromUtf16(spec.name);
+    const QString name = QString::fromUtf16(shape.name);
     const QString old = name + QStringLiteral("_eski");
     QStringList columns;
-    for (const FieldSpec &field : spec.fields)
+    for (const FieldShape &field : shape.fields)
         columns << u'"' + QString::fromUtf16(field.name) + u'"';
     QStringList steps { QStringLiteral("ALTER TABLE \"%1\" RENAME TO \"%2\"").arg(name, old) };
     for (const QString &index : db.texts(
@@ -173,7 +173,7 @@ QStringList rebuildSteps(Database &db, const TableSpec &spec)
                  .arg(name)))
         steps << QStringLiteral("DROP INDEX \"%1\"").arg(index);
     // The table, its rows, then its indexes: built from sorted rows rather than row by row.
-    const QStringList creation = defineTable(db, spec)->creationSql();
+    const QStringList creation = defineTable(db, shape)->creationSql();
     steps << creation.first();
     steps << QStringLiteral("INSERT INTO \"%1\" (%3) SELECT %3 FROM \"%2\"").arg(name, old, columns.join(u','));
     // The renamed table took its counter along; the new table gets it back.
@@ -192,7 +192,7 @@ void dropOwnCollation(Database &db)
     if (tables.isEmpty() || !Backups::make(db) || !db.run(QStringLiteral("BEGIN IMMEDIATE")))
         return;
     QStringList steps;
-    for (const TableSpec &table : schema())
+    for (const TableShape &table : schema())
         if (tables.contains(QString::fromUtf16(table.name)))
             steps << rebuildSteps(db, table);
     for (const QString &step : std::as_const(steps))
@@ -232,7 +232,7 @@ bool buildSchema(const QString &path)
         reportNoFile();
         return false;
     }
-    for (const TableSpec &table : schema())
+    for (const TableShape &table : schema())
         if (!createTable(*db, table))
             return false;
     return true;
@@ -255,7 +255,7 @@ bool hasOurTables(Database &file)
     std::unique_ptr<Database> reference = Database::inMemory();
     if (!reference)
         return false;
-    for (const TableSpec &table : schema()) {
+    for (const TableShape &table : schema()) {
         if (!createTable(*reference, table))
             return false;
         const QString columns = QStringLiteral("SELECT name || ' ' || type || ' ' || \"notnull\" || ' ' || pk "

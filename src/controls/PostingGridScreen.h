@@ -27,7 +27,6 @@ protected:
     // After a row was stored as oto: the key goes into the row, the grid takes the row, the
     // totals follow and the grid moves on (appending a new empty row after the last).
     void rowStored(qint64 oto);
-    // Gives the grid room for every column and a dozen rows; call after the columns are defined.
     // After a listing: the empty row for a new entry; the grid stands on it.
     void endListing();
     // Column text of a row as an amount.

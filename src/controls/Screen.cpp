@@ -4,8 +4,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -55,31 +53,6 @@ QPushButton *Screen::addCommand(
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, std::move(action));
     return button;
-}
-
-QGroupBox *RangeBox(const QString &title, QWidget *first, QWidget *last, QWidget *parent)
-{
-    auto *box = new QGroupBox(title, parent);
-    auto *grid = new QGridLayout(box);
-    grid->addWidget(LabelFor(QStringLiteral("Başlangıç"), first, box), 0, 0);
-    grid->addWidget(first, 0, 1);
-    grid->addWidget(LabelFor(QStringLiteral("Bitiş"), last, box), 1, 0);
-    grid->addWidget(last, 1, 1);
-    first->setAccessibleDescription(title);
-    last->setAccessibleDescription(title);
-    return box;
-}
-
-QLabel *LabelFor(const QString &caption, QWidget *field, QWidget *parent)
-{
-    auto *label = new QLabel(caption, parent);
-    label->setBuddy(field);
-    QString name = caption;
-    name.remove(u'&');
-    field->setAccessibleName(name.trimmed());
-    if (QWidget *inner = field->focusProxy())
-        inner->setAccessibleName(name.trimmed());
-    return label;
 }
 
 void Screen::keyPressEvent(QKeyEvent *event)

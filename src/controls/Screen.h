@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/LabelFor.h"
+
 #include <QPointer>
 #include <QWidget>
 
@@ -8,15 +10,6 @@
 
 class QLabel;
 class QPushButton;
-
-// A label for a field; its text (without the accelerator mark) becomes the field's accessible
-// name, and that of the widget inside that takes the field's focus.
-QLabel *LabelFor(const QString &caption, QWidget *field, QWidget *parent);
-
-// A framed range of two fields, "Başlangıç" and "Bitiş", under the range's title (which the
-// fields carry as their accessible description).
-class QGroupBox;
-QGroupBox *RangeBox(const QString &title, QWidget *first, QWidget *last, QWidget *parent);
 
 // What every screen shares: its form name and caption, the main window's icon, the order in
 // which Enter and Up walk its fields, Esc in the first field to close it, Enter on a focused

@@ -15,13 +15,6 @@ class QToolButton;
 // it checks every keystroke itself, shows numbers grouped with fixed decimals, completes dates,
 // moves on with Enter/Down and back with Up, and tells its screen about edits, keys and its
 // picture button through Change, KeyDown and ButtonClick.
-class XText;
-
-// " AND column >= ?n" and " AND column <= ?n" for those of the two date fields that hold a date
-// (an empty field or one that is not a date sets no bound); their day numbers are appended to
-// values, whose size numbers the placeholders.
-QString DateBounds(const QString &column, const XText *first, const XText *last, QVariantList &values);
-
 class XText : public QFrame
 {
     Q_OBJECT

@@ -16,15 +16,6 @@ constexpr double amountLimit = 9999999999999.0;
 
 } // namespace
 
-LedgerAmounts &LedgerAmounts::operator+=(const LedgerAmounts &other)
-{
-    brut += other.brut;
-    stopaj += other.stopaj;
-    fon += other.fon;
-    kdv += other.kdv;
-    return *this;
-}
-
 OfficialLedgerList::OfficialLedgerList(QWidget *parent)
     : ListWindow(QStringLiteral("Form13"), QStringLiteral("Serbest Meslek Defteri"), parent)
 {

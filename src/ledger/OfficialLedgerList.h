@@ -1,15 +1,8 @@
 #pragma once
 
 #include "controls/ListWindow.h"
+#include "ledger/LedgerAmounts.h"
 #include "money/Currency.h"
-
-
-// The amounts of a ledger row, or their sums.
-struct LedgerAmounts
-{
-    Currency brut, stopaj, fon, kdv;
-    LedgerAmounts &operator+=(const LedgerAmounts &other);
-};
 
 // The official book of one side as a read-only list (Form13), "Serbest Meslek Defteri (Gelir)"
 // or "(Gider)", and its printed pages: numbered rows, page totals carried from page to page.

@@ -5,6 +5,7 @@
 #include "books/DataFiles.h"
 #include "controls/DcList.h"
 #include "controls/OpenInMain.h"
+#include "controls/RangeBox.h"
 #include "controls/XText.h"
 #include "ledger/OfficialLedgerList.h"
 #include "money/DayNumber.h"

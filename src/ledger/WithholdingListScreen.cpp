@@ -4,6 +4,7 @@
 #include "books/Clock.h"
 #include "books/DataFiles.h"
 #include "books/TurkishText.h"
+#include "controls/DateBounds.h"
 #include "controls/DcList.h"
 #include "controls/ValueLabel.h"
 #include "controls/XText.h"
