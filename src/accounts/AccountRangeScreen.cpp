@@ -6,6 +6,7 @@
 #include "controls/DateBounds.h"
 #include "controls/RangeBox.h"
 #include "controls/XText.h"
+#include "printing/PrintPreset.h"
 #include "printing/PrintSettings.h"
 #include "printing/Prnx.h"
 
@@ -88,6 +89,14 @@ QString AccountRangeScreen::rangeCondition(QVariantList &values) const
                               .arg(values.size() - 1)
                               .arg(values.size());
     return codes + DateBounds(QStringLiteral("c.tarih"), m_fields[FirstDate], m_fields[LastDate], values);
+}
+
+void AccountRangeScreen::print()
+{
+    const int kind
+        = ChoosePrinter({ QStringLiteral("GENEL BORÇ ALACAK LİSTESİ"), true, true, false, true, 66, {} }, this);
+    if (kind != 0)
+        printOn(kind);
 }
 
 bool AccountRangeScreen::admits(int tip) const

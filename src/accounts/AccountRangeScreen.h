@@ -19,7 +19,10 @@ public:
     AccountRangeScreen(const QString &formName, const QString &caption, QWidget *parent = nullptr);
 
     virtual void listOnScreen() = 0;
-    virtual void print() = 0;
+    // " Yazıcı Ayarları" for the report, then printOn with the kind chosen.
+    void print();
+    // Prints with the print engine kind the printer settings gave (Prnx::Graphic or Prnx::Raw).
+    virtual void printOn(int kind) = 0;
 
 protected:
     // The condition on carhar rows (as c) of the two ranges: an empty code is the empty text, a

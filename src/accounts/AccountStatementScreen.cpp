@@ -4,17 +4,9 @@
 #include "books/AccessLayer.h"
 #include "books/DataFiles.h"
 #include "books/TurkishText.h"
-#include "controls/DcList.h"
-#include "controls/GridFill.h"
 #include "controls/ListWindow.h"
-#include "controls/OpenInMain.h"
-#include "money/AmountConventions.h"
-#include "money/DayNumber.h"
 #include "money/FormatAmount.h"
 #include "printing/PagedReport.h"
-#include "printing/PrintPreset.h"
-#include "printing/PrintSettings.h"
-#include "printing/Prnx.h"
 
 #include <QApplication>
 
@@ -79,7 +71,7 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
         const bool onDebit = FieldRead(*rows, QStringLiteral("ba")).toInt() == 0;
         (onDebit ? debit : credit) += tutar;
         emitLine(Line::Transaction,
-            { FormatDate(FieldRead(*rows, QStringLiteral("tarih")).toDate()),
+            { FieldRead(*rows, QStringLiteral("tarih")).toDate(),
                 TransactionTypeLabel(FieldRead(*rows, QStringLiteral("islem")).toInt()),
                 FieldRead(*rows, QStringLiteral("evrak")).toString(),
                 FieldRead(*rows, QStringLiteral("ack")).toString(), onDebit ? amount(tutar) : QVariant(QString()),
@@ -88,63 +80,42 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
     closeAccount();
 }
 
+// Date, type, document, text, debit, credit and the balance with its side.
+const ReportColumns &AccountStatementScreen::columns()
+{
+    static const ReportColumns declared = { DateColumn(QStringLiteral("tarih"), QStringLiteral("Tarih"), 10, 90),
+        TextColumn(QStringLiteral("islem"), QStringLiteral("İşlem"), 12, 90),
+        TextColumn(QStringLiteral("evrak"), QStringLiteral("Evrak"), 8, 80),
+        TextColumn(QStringLiteral("ack"), QStringLiteral("Açıklama"), 40, 240),
+        AmountColumn(QStringLiteral("borc"), QStringLiteral("Borç"), 17, 115),
+        AmountColumn(QStringLiteral("alacak"), QStringLiteral("Alacak"), 17, 115),
+        TextColumn(QStringLiteral("bakiye"), QStringLiteral("Bakiye"), 17, 130).right() };
+    return declared;
+}
+
 void AccountStatementScreen::listOnScreen()
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    if (!m_listWindow) {
-        m_listWindow = new ListWindow(QStringLiteral("Form16Liste"), QStringLiteral("Cari Hareket Dökümü"));
-        m_listWindow->setAttribute(Qt::WA_DeleteOnClose);
-        const int onda = amountConventions().tlonda;
-        const double limit = 999999999999.0;
-        DcList *list = m_listWindow->list();
-        list->Add(QStringLiteral("a"), QStringLiteral("tarih"), QStringLiteral("Tarih"), 90, 10, 0, 0, 0);
-        list->Add(QStringLiteral("a"), QStringLiteral("islem"), QStringLiteral("İşlem"), 90, 12, 0, 0, 0);
-        list->Add(QStringLiteral("a"), QStringLiteral("evrak"), QStringLiteral("Evrak"), 80, 8, 0, 0, 0);
-        list->Add(QStringLiteral("a"), QStringLiteral("ack"), QStringLiteral("Açıklama"), 240, 50, 0, 0, 0);
-        list->Add(QStringLiteral("n"), QStringLiteral("borc"), QStringLiteral("Borç"), 115, limit, 0, onda, 3);
-        list->Add(QStringLiteral("n"), QStringLiteral("alacak"), QStringLiteral("Alacak"), 115, limit, 0, onda, 3);
-        list->Add(QStringLiteral("a"), QStringLiteral("bakiye"), QStringLiteral("Bakiye"), 130, 20, 0, 0, 0);
-    }
-    OpenInMain(m_listWindow);
-    m_listWindow->fitToColumns();
-    DcList *list = m_listWindow->list();
-    list->Clear();
-    walk([list](Line, const QVariantList &cells) {
-        const int row = list->CreateNewCaption();
-        for (int c = 0; row >= 0 && c < cells.size(); ++c)
-            list->setCaption(row, c, GridCellText(cells[c]));
-    });
+    ListWindow *window
+        = ShowListWindow(m_listWindow, QStringLiteral("Form16Liste"), QStringLiteral("Cari Hareket Dökümü"), columns());
+    walk([window](Line, const QVariantList &cells) { window->addRow(cells); });
     QApplication::restoreOverrideCursor();
-}
-
-void AccountStatementScreen::print()
-{
-    const int kind
-        = ChoosePrinter({ QStringLiteral("GENEL BORÇ ALACAK LİSTESİ"), true, true, false, true, 66, {} }, this);
-    if (kind != 0)
-        printOn(kind);
 }
 
 void AccountStatementScreen::printOn(int kind)
 {
-    Prnx prnx;
-    if (!prnx.OpenPrinter(kind, QStringLiteral("Cari Hareket Dökümü"), true))
-        return;
     ReportLayout layout;
-    layout.columns = { { QStringLiteral("Tarih"), 10 }, { QStringLiteral("İşlem"), 12 }, { QStringLiteral("Evrak"), 8 },
-        { QStringLiteral("Açıklama"), 40 }, { QStringLiteral("Borç"), 17, 1, true },
-        { QStringLiteral("Alacak"), 17, 1, true }, { QStringLiteral("Bakiye"), 17, 1 } };
+    layout.columns = columns();
     layout.pageTop = [this](Prnx &printer) { printRangeHead(printer); };
     layout.carryCaption = QStringLiteral("Sayfa Devri :");
     layout.totalsOnOwnPage = true;
-    PagedReport report(prnx, std::move(layout));
-    walk([&report](Line line, QVariantList cells) {
-        if (line == Line::Total) // the account's own sums are not page totals
-            for (QVariant &cell : cells)
-                if (cell.userType() == qMetaTypeId<Currency>())
-                    cell = FormatAmount(cell.value<Currency>());
-        report.printRow(cells);
+    PrintPagedReport(kind, QStringLiteral("Cari Hareket Dökümü"), std::move(layout), [this](PagedReport &report) {
+        walk([&report](Line line, QVariantList cells) {
+            if (line == Line::Total) // the account's own sums are not page totals
+                for (QVariant &cell : cells)
+                    if (cell.userType() == qMetaTypeId<Currency>())
+                        cell = FormatAmount(cell.value<Currency>());
+            report.printRow(cells);
+        });
     });
-    report.finish();
-    prnx.ClosePrinter();
 }

@@ -19,12 +19,11 @@ public:
     explicit AccountStatementScreen(QWidget *parent = nullptr);
 
     void listOnScreen() override;
-    void print() override;
-    // Prints with the print engine kind the printer settings gave (Prnx::Graphic or Prnx::Raw).
-    void printOn(int kind);
+    void printOn(int kind) override;
     ListWindow *listWindow() const { return m_listWindow; }
 
 private:
+    static const ReportColumns &columns();
     // The statement line by line: an account's heading, its transactions, its totals. Amounts
     // are Currency cells.
     void walk(const std::function<void(Line line, const QVariantList &cells)> &emitLine) const;

@@ -329,9 +329,12 @@ void CashBookScreen::print()
     if (kind == 0 || !prnx.OpenPrinter(kind, printSettings().title))
         return;
     ReportLayout layout;
-    layout.columns = { { QStringLiteral("Cari"), 8 }, { QStringLiteral("E"), 1 }, { QStringLiteral("Evrak"), 8 },
-        { QStringLiteral("Açıklama"), 35 }, { QStringLiteral("Borç"), 11, 1, true },
-        { QStringLiteral("Alacak"), 11, 1, true } };
+    layout.columns = { TextColumn(QStringLiteral("kod"), QStringLiteral("Cari"), 8, 0),
+        TextColumn(QStringLiteral("em"), QStringLiteral("E"), 1, 0),
+        TextColumn(QStringLiteral("evrak"), QStringLiteral("Evrak"), 8, 0),
+        TextColumn(QStringLiteral("ack"), QStringLiteral("Açıklama"), 35, 0),
+        AmountColumn(QStringLiteral("borc"), QStringLiteral("Borç"), 11, 0),
+        AmountColumn(QStringLiteral("alacak"), QStringLiteral("Alacak"), 11, 0) };
     PagedReport page(prnx, layout);
     prnx.YeniSayfa();
     prnx.Lprint(QStringLiteral(" "), 1, true);

@@ -3,14 +3,9 @@
 #include "books/AccessLayer.h"
 #include "books/DataFiles.h"
 #include "books/TurkishText.h"
-#include "controls/DcList.h"
 #include "controls/ListWindow.h"
-#include "controls/OpenInMain.h"
-#include "money/AmountConventions.h"
 #include "printing/PagedReport.h"
-#include "printing/PrintPreset.h"
 #include "printing/PrintSettings.h"
-#include "printing/Prnx.h"
 
 #include <QApplication>
 
@@ -50,88 +45,70 @@ std::vector<DebitCreditScreen::Account> DebitCreditScreen::accounts() const
     return found;
 }
 
-ListWindow *DebitCreditScreen::openListWindow()
+// Kod, title, debit, credit, debit balance, credit balance.
+const ReportColumns &DebitCreditScreen::columns()
 {
-    if (!m_listWindow) {
-        m_listWindow = new ListWindow(QStringLiteral("Form11"), QStringLiteral("Genel Borç Alacak Listesi"));
-        m_listWindow->setAttribute(Qt::WA_DeleteOnClose);
-        const int onda = amountConventions().tlonda;
-        DcList *list = m_listWindow->list();
-        const double limit = 999999999999.0;
-        list->Add(QStringLiteral("a"), QStringLiteral("kod"), QStringLiteral("Kod"), 80, 8, 0, 0, 0);
-        list->Add(QStringLiteral("a"), QStringLiteral("unv"), QStringLiteral("Ünvan"), 210, 40, 0, 0, 0);
-        list->Add(QStringLiteral("n"), QStringLiteral("borc"), QStringLiteral("Borç"), 115, limit, 0, onda, 3);
-        list->Add(QStringLiteral("n"), QStringLiteral("alacak"), QStringLiteral("Alcak"), 115, limit, 0, onda, 3);
-        list->Add(QStringLiteral("n"), QStringLiteral("bbak"), QStringLiteral("B.Bakiye"), 115, limit, 0, onda, 3);
-        list->Add(QStringLiteral("n"), QStringLiteral("abak"), QStringLiteral("A.Bakiye"), 115, limit, 0, onda, 3);
-    }
-    OpenInMain(m_listWindow);
-    m_listWindow->fitToColumns();
-    return m_listWindow;
+    static const ReportColumns declared = { TextColumn(QStringLiteral("kod"), QStringLiteral("Kod"), 8, 80),
+        TextColumn(QStringLiteral("unv"), QStringLiteral("Ünvan"), 40, 210),
+        AmountColumn(QStringLiteral("borc"), QStringLiteral("Borç"), 17, 115),
+        AmountColumn(QStringLiteral("alacak"), QStringLiteral("Alacak"), 17, 115).listedAs(QStringLiteral("Alcak")),
+        AmountColumn(QStringLiteral("bbak"), QStringLiteral("Borç Bakiye"), 17, 115)
+            .listedAs(QStringLiteral("B.Bakiye")),
+        AmountColumn(QStringLiteral("abak"), QStringLiteral("Alacak Bakiye"), 17, 115)
+            .listedAs(QStringLiteral("A.Bakiye")) };
+    return declared;
+}
+
+QVariantList DebitCreditScreen::Account::cells() const
+{
+    return { kod, unv, QVariant::fromValue(debit), QVariant::fromValue(credit), QVariant::fromValue(debitBalance()),
+        QVariant::fromValue(creditBalance()) };
 }
 
 void DebitCreditScreen::listOnScreen()
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    DcList *list = openListWindow()->list();
-    list->Clear();
-    Currency total[4];
-    const auto addRow = [list](const QString &kod, const QString &unv, const Currency(&amounts)[4]) {
-        const int row = list->CreateNewCaption();
-        if (row < 0)
-            return;
-        list->setCaption(row, Kod, kod);
-        list->setCaption(row, Unv, unv);
-        for (int c = 0; c < 4; ++c)
-            list->setCaption(row, Borc + c, amounts[c].toString());
-    };
+    ListWindow *window = ShowListWindow(
+        m_listWindow, QStringLiteral("Form11"), QStringLiteral("Genel Borç Alacak Listesi"), columns());
+    Account total;
+    total.unv = QStringLiteral("T O P L A M");
+    Currency debitBalances, creditBalances;
     for (const Account &account : accounts()) {
         if (!account.listed)
             continue;
-        const Currency amounts[4] = { account.debit, account.credit, account.debitBalance(), account.creditBalance() };
-        addRow(account.kod, account.unv, amounts);
-        for (int c = 0; c < 4; ++c)
-            total[c] += amounts[c];
+        window->addRow(account.cells());
+        total.debit += account.debit;
+        total.credit += account.credit;
+        debitBalances += account.debitBalance();
+        creditBalances += account.creditBalance();
     }
-    addRow(QString(), QStringLiteral("T O P L A M"), total);
+    window->addRow({ QString(), total.unv, QVariant::fromValue(total.debit), QVariant::fromValue(total.credit),
+        QVariant::fromValue(debitBalances), QVariant::fromValue(creditBalances) });
     QApplication::restoreOverrideCursor();
-}
-
-void DebitCreditScreen::print()
-{
-    const int kind
-        = ChoosePrinter({ QStringLiteral("GENEL BORÇ ALACAK LİSTESİ"), true, true, false, true, 66, {} }, this);
-    if (kind != 0)
-        printOn(kind);
 }
 
 void DebitCreditScreen::printOn(int kind)
 {
     const std::vector<Account> found = accounts();
-    Prnx prnx;
-    if (found.empty() || !prnx.OpenPrinter(kind, printSettings().title, true))
+    if (found.empty())
         return;
     ReportLayout layout;
-    layout.columns = { { QStringLiteral("Kod"), 8 }, { QStringLiteral("Ünvan"), 40 },
-        { QStringLiteral("Borç"), 17, 1, true }, { QStringLiteral("Alacak"), 17, 1, true },
-        { QStringLiteral("Borç Bakiye"), 17, 1, true }, { QStringLiteral("Alacak Bakiye"), 17, 1, true } };
+    layout.columns = columns();
     layout.pageTop = [this](Prnx &printer) { printRangeHead(printer); };
     layout.carryCaption = QStringLiteral("Sayfa Devri :");
     layout.totalsOnOwnPage = true;
-    PagedReport report(prnx, std::move(layout));
-    for (const Account &account : found) {
-        report.beginPage(); // every account of the query, listed or not, opens a page when none is
-        if (!account.listed)
-            continue;
-        QVariantList cells
-            = { account.kod, account.unv, QVariant::fromValue(account.debit), QVariant::fromValue(account.credit) };
-        // A debit-side line ends with its balance; a credit-side line leaves the debit balance blank.
-        if (account.debit > account.credit)
-            cells << QVariant::fromValue(account.debitBalance());
-        else
-            cells << QString() << QVariant::fromValue(account.creditBalance());
-        report.printRow(cells);
-    }
-    report.finish();
-    prnx.ClosePrinter();
+    PrintPagedReport(kind, printSettings().title, std::move(layout), [&found](PagedReport &report) {
+        for (const Account &account : found) {
+            report.beginPage(); // every account of the query, listed or not, opens a page when none is
+            if (!account.listed)
+                continue;
+            QVariantList cells = account.cells();
+            // A debit-side line ends with its balance; a credit-side line leaves the debit balance blank.
+            if (account.debit > account.credit)
+                cells.removeLast();
+            else
+                cells[4] = QString();
+            report.printRow(cells);
+        }
+    });
 }

@@ -3,6 +3,7 @@
 #include "accounts/AccountRangeScreen.h"
 #include "controls/ListWindow.h"
 #include "money/Currency.h"
+#include "printing/ReportColumn.h"
 
 #include <QPointer>
 
@@ -15,14 +16,10 @@ class DebitCreditScreen : public AccountRangeScreen
 {
     Q_OBJECT
 public:
-    enum Column { Kod = 0, Unv, Borc, Alacak, BBak, ABak };
-
     explicit DebitCreditScreen(QWidget *parent = nullptr);
 
     void listOnScreen() override;
-    void print() override;
-    // Prints with the print engine kind the printer settings gave (Prnx::Graphic or Prnx::Raw).
-    void printOn(int kind);
+    void printOn(int kind) override;
     // The list window of the last listing (null before it and once it was closed).
     ListWindow *listWindow() const { return m_listWindow; }
 
@@ -34,10 +31,12 @@ private:
         bool listed = false;
         Currency debitBalance() const { return debit > credit ? debit - credit : Currency(); }
         Currency creditBalance() const { return debit > credit ? Currency() : credit - debit; }
+        // A row of the report's columns.
+        QVariantList cells() const;
     };
+    static const ReportColumns &columns();
     // Every account of the ranges that has a card, code by code; listed: admitted by its type.
     std::vector<Account> accounts() const;
-    ListWindow *openListWindow();
 
     QPointer<ListWindow> m_listWindow;
 };

@@ -1,6 +1,8 @@
 #include "controls/ListWindow.h"
 
 #include "controls/DcList.h"
+#include "controls/OpenInMain.h"
+#include "controls/ReportGrid.h"
 
 #include <QTableView>
 #include <QVBoxLayout>
@@ -29,4 +31,30 @@ void ListWindow::fitToColumns()
     m_list->fitToColumns(16);
     if (parentWidget())
         parentWidget()->adjustSize();
+}
+
+void ListWindow::setColumns(const ReportColumns &columns)
+{
+    m_columns = columns;
+    m_list->Clear();
+    m_list->Reset();
+    DefineReportColumns(*m_list, m_columns);
+    fitToColumns();
+}
+
+bool ListWindow::addRow(const QVariantList &cells)
+{
+    return AddReportRow(*m_list, m_columns, cells);
+}
+
+ListWindow *ShowListWindow(
+    QPointer<ListWindow> &window, const QString &formName, const QString &caption, const ReportColumns &columns)
+{
+    if (!window) {
+        window = new ListWindow(formName, caption);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    OpenInMain(window);
+    window->setColumns(columns);
+    return window;
 }

@@ -4,7 +4,6 @@
 #include "books/Clock.h"
 #include "books/DataFiles.h"
 #include "controls/DcList.h"
-#include "money/AmountConventions.h"
 #include "money/Currency.h"
 #include "money/DayNumber.h"
 
@@ -25,17 +24,14 @@ constexpr int totalRow = 13;
 MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
     : ListWindow(QStringLiteral("Form9"), QStringLiteral("Kdv, Stopaj Raporu"), parent)
 {
+    const auto amount = [](const char *name, const char16_t *caption) {
+        return AmountColumn(QString::fromLatin1(name), QString::fromUtf16(caption), 0, 110);
+    };
+    setColumns({ TextColumn(QStringLiteral("donem"), QStringLiteral("Dönem"), 0, 80),
+        amount("indmatrah", u"İnd.Matrah"), amount("indkdv", u"İnd.KDV"), amount("hesmatrah", u"Hes.Matrah"),
+        amount("heskdv", u"Hes.KDV"), amount("stopaj", u"Stopaj"), amount("fon", u"Fon") });
     DcList *grid = list();
     grid->setScroll(0);
-    const int onda = amountConventions().tlonda;
-    const double limit = 999999999999.0;
-    grid->Add(QStringLiteral("a"), QStringLiteral("donem"), QStringLiteral("Dönem"), 80, 12, 0, 0, 0);
-    grid->Add(QStringLiteral("n"), QStringLiteral("indmatrah"), QStringLiteral("İnd.Matrah"), 110, limit, 0, onda, 3);
-    grid->Add(QStringLiteral("n"), QStringLiteral("indkdv"), QStringLiteral("İnd.KDV"), 110, limit, 0, onda, 3);
-    grid->Add(QStringLiteral("n"), QStringLiteral("hesmatrah"), QStringLiteral("Hes.Matrah"), 110, limit, 0, onda, 3);
-    grid->Add(QStringLiteral("n"), QStringLiteral("heskdv"), QStringLiteral("Hes.KDV"), 110, limit, 0, onda, 3);
-    grid->Add(QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, limit, 0, onda, 3);
-    grid->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, limit, 0, onda, 3);
     const int rowHeight = grid->view()->verticalHeader()->defaultSectionSize();
     grid->setMinimumSize(80 + 6 * 110 + 4, (totalRow + 2) * rowHeight + 8);
     compute();
@@ -46,13 +42,6 @@ MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
 // have no month and stay out.
 void MonthlyReportScreen::compute()
 {
-    DcList *grid = list();
-    grid->Clear();
-    for (int row = 0; row <= totalRow; ++row)
-        grid->setCaption(grid->CreateNewCaption(), Donem,
-            row < 12              ? QString::fromUtf16(months[row])
-                : row == totalRow ? QStringLiteral("TOPLAM")
-                                  : QString());
     const int year = Today().year();
     std::array<std::array<Currency, 7>, 12> month {};
     std::unique_ptr<Recordset> rows;
@@ -76,12 +65,19 @@ void MonthlyReportScreen::compute()
             }
         } while (RsNext(*rows));
     }
+    list()->Clear();
     std::array<Currency, 7> total {};
-    for (int m = 0; m < 12; ++m)
+    for (int m = 0; m < 12; ++m) {
+        QVariantList cells = { QString::fromUtf16(months[m]) };
         for (int c = IndMatrah; c <= Fon; ++c) {
-            grid->setCaption(m, c, month[size_t(m)][size_t(c)].toString());
+            cells << QVariant::fromValue(month[size_t(m)][size_t(c)]);
             total[size_t(c)] += month[size_t(m)][size_t(c)];
         }
+        addRow(cells);
+    }
+    addRow({ QString() });
+    QVariantList totals = { QStringLiteral("TOPLAM") };
     for (int c = IndMatrah; c <= Fon; ++c)
-        grid->setCaption(totalRow, c, total[size_t(c)].toString());
+        totals << QVariant::fromValue(total[size_t(c)]);
+    addRow(totals);
 }

@@ -3,18 +3,11 @@
 #include "books/Message.h"
 #include "books/Parameters.h"
 #include "controls/DcList.h"
-#include "money/AmountConventions.h"
 #include "printing/PagedReport.h"
 #include "printing/PrintSettings.h"
 #include "printing/Prnx.h"
 
 #include <QTableView>
-
-namespace {
-
-constexpr double amountLimit = 9999999999999.0;
-
-} // namespace
 
 OfficialLedgerList::OfficialLedgerList(QWidget *parent)
     : ListWindow(QStringLiteral("Form13"), QStringLiteral("Serbest Meslek Defteri"), parent)
@@ -28,52 +21,39 @@ void OfficialLedgerList::showBook(int side, bool withholding, bool fund)
                                  : QStringLiteral("Serbest Meslek Defteri (Gider)"));
     list()->setAccessibleName(windowTitle());
     list()->view()->setAccessibleName(windowTitle());
-    list()->Clear();
-    list()->Reset();
-    defineColumns(withholding, fund);
-    fitToColumns();
+    m_rows.clear();
+    setColumns(columns(side, withholding, fund));
 }
 
-void OfficialLedgerList::defineColumns(bool withholding, bool fund)
+ReportColumns OfficialLedgerList::columns(int side, bool withholding, bool fund)
 {
-    const int onda = amountConventions().tlonda;
-    const int textWidth = m_side == Gelir ? 150 : 250;
-    const int amountWidth = m_side == Gelir ? 110 : 120;
-    list()->Add(QStringLiteral("n"), QStringLiteral("sira"), QStringLiteral("Sıra"), 50, 99999999, 0, 0, 0);
-    list()->Add(QStringLiteral("t"), QStringLiteral("tarih"), QStringLiteral("Tarih"), 90, 10, 0, 0, 0);
-    list()->Add(QStringLiteral("a"), QStringLiteral("evrak"), QStringLiteral("Evrak"), 80, 8, 0, 0, 0);
-    list()->Add(QStringLiteral("a"), QStringLiteral("ack"), QStringLiteral("Açıklama"), textWidth, 40, 0, 0, 0);
-    list()->Add(
-        QStringLiteral("n"), QStringLiteral("matrah"), QStringLiteral("Matrah"), amountWidth, amountLimit, 0, onda, 3);
-    if (m_side == Gelir && withholding)
-        list()->Add(
-            QStringLiteral("n"), QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 110, amountLimit, 0, onda, 3);
-    if (m_side == Gelir && fund)
-        list()->Add(QStringLiteral("n"), QStringLiteral("fon"), QStringLiteral("Fon"), 110, amountLimit, 0, onda, 3);
-    list()->Add(
-        QStringLiteral("n"), QStringLiteral("kdv"), QStringLiteral("Kdv"), amountWidth, amountLimit, 0, onda, 3);
+    const bool income = side == Gelir;
+    const int amountPixels = income ? 110 : 120;
+    return { NumberColumn(QStringLiteral("sira"), QStringLiteral("Sıra"), 4, 50),
+        DateColumn(QStringLiteral("tarih"), QStringLiteral("Tarih"), 12, 90),
+        TextColumn(QStringLiteral("evrak"), QStringLiteral("Evrak"), 10, 80),
+        TextColumn(QStringLiteral("ack"), QStringLiteral("Açıklama"), 42, income ? 150 : 250),
+        AmountColumn(
+            QStringLiteral("matrah"), income ? QStringLiteral("Gelir") : QStringLiteral("Gider"), 15, amountPixels)
+            .listedAs(QStringLiteral("Matrah")),
+        AmountColumn(
+            QStringLiteral("stopaj"), QStringLiteral("Stopaj"), income ? 12 : 0, income && withholding ? 110 : 0),
+        AmountColumn(QStringLiteral("fon"), QStringLiteral("Fon"), 0, income && fund ? 110 : 0),
+        AmountColumn(
+            QStringLiteral("kdv"), income ? QStringLiteral("Hes.Kdv.") : QStringLiteral("İnd.Kdv."), 12, amountPixels)
+            .listedAs(QStringLiteral("Kdv")),
+        AmountColumn(QStringLiteral("toplam"), QStringLiteral("Toplam"), 15, 0) };
 }
 
 void OfficialLedgerList::addRow(
-    int sira, const QString &date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts)
+    int sira, QDate date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts)
 {
-    const int row = list()->CreateNewCaption();
-    if (row < 0)
-        return;
-    list()->setCaption(row, Sira, QString::number(sira));
-    list()->setCaption(row, Tarih, date);
-    list()->setCaption(row, Evrak, evrak);
-    list()->setCaption(row, Ack, ack);
-    list()->setCaption(row, Matrah, amounts.brut.toString());
-    // Columns the list does not have take no value.
-    list()->setCaptionByName(row, QStringLiteral("stopaj"), amounts.stopaj.toString());
-    list()->setCaptionByName(row, QStringLiteral("fon"), amounts.fon.toString());
-    list()->setCaptionByName(row, QStringLiteral("kdv"), amounts.kdv.toString());
-}
-
-Currency OfficialLedgerList::amountAt(int row, const QString &name) const
-{
-    return Currency::fromString(list()->CaptionByName(row, name));
+    const Currency total = amounts.brut + amounts.kdv + (m_side == Gelir ? amounts.stopaj : Currency());
+    QVariantList cells = { sira, date.isValid() ? QVariant(date) : QVariant(QString()), evrak, ack,
+        QVariant::fromValue(amounts.brut), QVariant::fromValue(amounts.stopaj), QVariant::fromValue(amounts.fon),
+        QVariant::fromValue(amounts.kdv), QVariant::fromValue(total) };
+    if (ListWindow::addRow(cells))
+        m_rows.push_back(std::move(cells));
 }
 
 void OfficialLedgerList::yazdir(int kind, int side)
@@ -82,45 +62,19 @@ void OfficialLedgerList::yazdir(int kind, int side)
         Message::exclamation(QStringLiteral("Parametrelerden Unvanı Doldurunuz"));
         return;
     }
-    Prnx prnx;
     const bool income = side == Gelir;
-    if (!prnx.OpenPrinter(
-            kind, income ? QStringLiteral("SM Defteri (Gelir)") : QStringLiteral("SM Defteri (Gider)"), true)) {
-        Message::exclamation(QStringLiteral("Yazıcı Açılamadı"));
-        return;
-    }
     ReportLayout layout;
-    layout.columns = { { QStringLiteral("Sıra"), 4, 1 }, { QStringLiteral("Tarih"), 12 },
-        { QStringLiteral("Evrak"), 10 }, { QStringLiteral("Açıklama"), 42 } };
-    if (income)
-        layout.columns.insert(layout.columns.end(),
-            { { QStringLiteral("Gelir"), 15, 1, true }, { QStringLiteral("Stopaj"), 12, 1, true },
-                { QStringLiteral("Hes.Kdv."), 12, 1, true } });
-    else
-        layout.columns.insert(layout.columns.end(),
-            { { QStringLiteral("Gider"), 15, 1, true }, { QStringLiteral("İnd.Kdv."), 12, 1, true } });
-    layout.columns.push_back({ QStringLiteral("Toplam"), 15, 1, true });
+    layout.columns = columns(side, true, false);
     layout.pageTop = [this, income](Prnx &printer) { pageTop(printer, income); };
     layout.boldHeads = false;
     layout.carryCaption = QStringLiteral("Nakli Yekun :");
     layout.boldTotals = true;
-    PagedReport report(prnx, std::move(layout));
-    for (int row = 0; row < list()->ListCount(); ++row) {
-        const Currency matrah = amountAt(row, QStringLiteral("matrah"));
-        const Currency kdv = amountAt(row, QStringLiteral("kdv"));
-        QVariantList cells = { list()->curtext(list()->Caption(row, Sira), Sira), list()->Caption(row, Tarih),
-            list()->Caption(row, Evrak), list()->Caption(row, Ack), QVariant::fromValue(matrah) };
-        if (income) {
-            const Currency stopaj = amountAt(row, QStringLiteral("stopaj"));
-            cells << QVariant::fromValue(stopaj) << QVariant::fromValue(kdv)
-                  << QVariant::fromValue(matrah + kdv + stopaj);
-        } else {
-            cells << QVariant::fromValue(kdv) << QVariant::fromValue(matrah + kdv);
-        }
-        report.printRow(cells);
-    }
-    report.finish();
-    prnx.ClosePrinter();
+    const QString document = income ? QStringLiteral("SM Defteri (Gelir)") : QStringLiteral("SM Defteri (Gider)");
+    if (!PrintPagedReport(kind, document, std::move(layout), [this](PagedReport &report) {
+            for (const QVariantList &row : m_rows)
+                report.printRow(row);
+        }))
+        Message::exclamation(QStringLiteral("Yazıcı Açılamadı"));
 }
 
 // The title with its side, the holder's name and, when asked for, the page number.

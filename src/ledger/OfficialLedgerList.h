@@ -4,6 +4,10 @@
 #include "ledger/LedgerAmounts.h"
 #include "money/Currency.h"
 
+#include <QDate>
+
+#include <vector>
+
 // The official book of one side as a read-only list (Form13), "Serbest Meslek Defteri (Gelir)"
 // or "(Gider)", and its printed pages: numbered rows, page totals carried from page to page.
 class OfficialLedgerList : public ListWindow
@@ -18,15 +22,17 @@ public:
     // Empties the list for a side's book; withholding and fund: whether an income list shows
     // those columns.
     void showBook(int side, bool withholding, bool fund);
-    // A numbered row (number 0: the row that carries in the sums before the range).
-    void addRow(int sira, const QString &date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts);
+    // A numbered row (number 0 and no date: the row that carries in the sums before the range).
+    void addRow(int sira, QDate date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts);
     // Prints the listed rows with the print engine kind (Prnx::Graphic or Prnx::Raw).
     void yazdir(int kind, int side);
 
 private:
-    void defineColumns(bool withholding, bool fund);
+    // Number, date, document, text, base, withholding, fund, VAT and the printed total; the
+    // side decides the heads, the boxes which of withholding and fund are listed.
+    static ReportColumns columns(int side, bool withholding, bool fund);
     void pageTop(class Prnx &prnx, bool income) const;
-    Currency amountAt(int row, const QString &name) const;
 
     int m_side = Gelir;
+    std::vector<QVariantList> m_rows; // the listed rows, as typed cells
 };

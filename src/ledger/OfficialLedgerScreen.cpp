@@ -141,9 +141,9 @@ void OfficialLedgerScreen::fill(int kind)
             const LedgerAmounts amounts = amountsOf(*rows);
             if (counter >= firstNo) {
                 if (!listed && carried.brut > Currency())
-                    m_listScreen->addRow(0, QString(), QString(), QStringLiteral("Devir...."), carried);
+                    m_listScreen->addRow(0, QDate(), QString(), QStringLiteral("Devir...."), carried);
                 listed = true;
-                m_listScreen->addRow(counter, FormatDate(FieldRead(*rows, QStringLiteral("tarih")).toDate()),
+                m_listScreen->addRow(counter, FieldRead(*rows, QStringLiteral("tarih")).toDate(),
                     FieldRead(*rows, QStringLiteral("evrak")).toString(),
                     FieldRead(*rows, QStringLiteral("ack")).toString(), amounts);
             }

@@ -6,9 +6,9 @@
 #include "books/TurkishText.h"
 #include "controls/DateBounds.h"
 #include "controls/DcList.h"
+#include "controls/ReportGrid.h"
 #include "controls/ValueLabel.h"
 #include "controls/XText.h"
-#include "money/AmountConventions.h"
 #include "money/DayNumber.h"
 #include "money/FormatAmount.h"
 #include "printing/PagedReport.h"
@@ -35,7 +35,7 @@ WithholdingListScreen::WithholdingListScreen(QWidget *parent)
     m_list->setZebra(true);
     m_list->setEditable(false);
     m_list->setScroll(1);
-    defineColumns();
+    DefineReportColumns(*m_list, columns());
     m_list->fitToColumns(16);
     m_totalGross->setObjectName(QStringLiteral("Label3_1"));
     m_totalGross->showAsAmount(115);
@@ -77,17 +77,21 @@ XText *WithholdingListScreen::makeDateField(int index)
     return m_dates[index];
 }
 
-void WithholdingListScreen::defineColumns()
+// Number, payer, tax number and office, kind, date, gross and withholding.
+const ReportColumns &WithholdingListScreen::columns()
 {
-    const int onda = amountConventions().tlonda;
-    m_list->Add(QStringLiteral("n"), QStringLiteral("s"), QStringLiteral("S."), 30, 99999, 0, 0, 0);
-    m_list->Add(QStringLiteral("a"), QStringLiteral("adsoy"), QStringLiteral("Adı Soyadı"), 140, 40, 0, 0, 0);
-    m_list->Add(QStringLiteral("a"), QStringLiteral("verno"), QStringLiteral("Vergi No"), 95, 15, 0, 0, 0);
-    m_list->Add(QStringLiteral("a"), QStringLiteral("verda"), QStringLiteral("V.Dairesi"), 95, 15, 0, 0, 0);
-    m_list->Add(QStringLiteral("a"), QStringLiteral("tur"), QStringLiteral("Tür"), 40, 3, 0, 0, 0);
-    m_list->Add(QStringLiteral("t"), QStringLiteral("donem"), QStringLiteral("Dönem"), 90, 10, 0, 0, 0);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("brut"), QStringLiteral("Brüt"), 115, 999999999999.0, 0, onda, 3);
-    m_list->Add(QStringLiteral("n"), QStringLiteral("vergi"), QStringLiteral("Vergi"), 115, 999999999999.0, 0, onda, 3);
+    static const ReportColumns declared = {
+        NumberColumn(QStringLiteral("s"), QStringLiteral("Sira"), 4, 30).listedAs(QStringLiteral("S.")),
+        TextColumn(QStringLiteral("adsoy"), QStringLiteral("Ad Soyad"), 40, 140).listedAs(QStringLiteral("Adı Soyadı")),
+        TextColumn(QStringLiteral("verno"), QStringLiteral("Vergi No"), 15, 95),
+        TextColumn(QStringLiteral("verda"), QStringLiteral("Vergi Daire"), 15, 95)
+            .listedAs(QStringLiteral("V.Dairesi")),
+        TextColumn(QStringLiteral("tur"), QStringLiteral("Tür"), 4, 40),
+        DateColumn(QStringLiteral("donem"), QStringLiteral("Dönem"), 12, 90),
+        AmountColumn(QStringLiteral("brut"), QStringLiteral("Brüt Tutar"), 15, 115).listedAs(QStringLiteral("Brüt")),
+        AmountColumn(QStringLiteral("vergi"), QStringLiteral("Vergi Tutar"), 15, 115).listedAs(QStringLiteral("Vergi"))
+    };
+    return declared;
 }
 
 // The dates as they stand now make the query; the list reloads only when it differs from the
@@ -117,23 +121,21 @@ void WithholdingListScreen::load(const QString &sql, const QVariantList &values)
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_list->Clear();
+    m_rows.clear();
     Currency gross, tax;
     std::unique_ptr<Recordset> rows;
     if (QueryOpen(*dataFiles().db, rows, sql, values)) {
         for (; !RsEof(*rows); RsNext(*rows)) {
-            const int row = m_list->CreateNewCaption();
-            if (row < 0)
-                break;
             const Currency brut = FieldRead(*rows, QStringLiteral("brut")).value<Currency>();
             const Currency vergi = FieldRead(*rows, QStringLiteral("vergi")).value<Currency>();
-            m_list->setCaption(row, S, QString::number(row + 1));
-            m_list->setCaption(row, AdSoyad, FieldRead(*rows, QStringLiteral("adsoy")).toString());
-            m_list->setCaption(row, VerNo, FieldRead(*rows, QStringLiteral("verno")).toString());
-            m_list->setCaption(row, VerDa, FieldRead(*rows, QStringLiteral("verda")).toString());
-            m_list->setCaption(row, Tur, QStringLiteral("SMK"));
-            m_list->setCaption(row, Donem, FormatDate(FieldRead(*rows, QStringLiteral("donem")).toDate()));
-            m_list->setCaption(row, Brut, brut.toString());
-            m_list->setCaption(row, Vergi, vergi.toString());
+            QVariantList cells = { int(m_rows.size() + 1), FieldRead(*rows, QStringLiteral("adsoy")).toString(),
+                FieldRead(*rows, QStringLiteral("verno")).toString(),
+                FieldRead(*rows, QStringLiteral("verda")).toString(), QStringLiteral("SMK"),
+                FieldRead(*rows, QStringLiteral("donem")).toDate(), QVariant::fromValue(brut),
+                QVariant::fromValue(vergi) };
+            if (!AddReportRow(*m_list, columns(), cells))
+                break;
+            m_rows.push_back(std::move(cells));
             gross += brut;
             tax += vergi;
         }
@@ -145,28 +147,20 @@ void WithholdingListScreen::load(const QString &sql, const QVariantList &values)
 
 void WithholdingListScreen::print()
 {
-    if (m_list->ListCount() == 0)
+    if (m_rows.empty())
         return;
     const int kind = ChoosePrinter({ QStringLiteral("Stopaj Listesi"), false, false, false, false, 33, true }, this);
-    Prnx prnx;
-    if (kind == 0 || !prnx.OpenPrinter(kind, printSettings().title, true))
+    if (kind == 0)
         return;
     ReportLayout layout;
-    layout.columns
-        = { { QStringLiteral("Sira"), 4, 1 }, { QStringLiteral("Ad Soyad"), 40 }, { QStringLiteral("Vergi No"), 15 },
-              { QStringLiteral("Vergi Daire"), 15 }, { QStringLiteral("Tür"), 4 }, { QStringLiteral("Dönem"), 12 },
-              { QStringLiteral("Brüt Tutar"), 15, 1, true }, { QStringLiteral("Vergi Tutar"), 15, 1, true } };
+    layout.columns = columns();
     layout.pageTop = [this](Prnx &printer) { pageTop(printer); };
     layout.footRoom = 0;
     layout.captionWidth = 94;
-    PagedReport report(prnx, std::move(layout));
-    for (int row = 0; row < m_list->ListCount(); ++row)
-        report.printRow({ m_list->Caption(row, S), m_list->Caption(row, AdSoyad), m_list->Caption(row, VerNo),
-            m_list->Caption(row, VerDa), m_list->Caption(row, Tur), m_list->Caption(row, Donem),
-            QVariant::fromValue(Currency::fromString(m_list->Caption(row, Brut))),
-            QVariant::fromValue(Currency::fromString(m_list->Caption(row, Vergi))) });
-    report.finish();
-    prnx.ClosePrinter();
+    PrintPagedReport(kind, printSettings().title, std::move(layout), [this](PagedReport &report) {
+        for (const QVariantList &row : m_rows)
+            report.printRow(row);
+    });
 }
 
 void WithholdingListScreen::pageTop(Prnx &prnx) const
@@ -179,7 +173,7 @@ void WithholdingListScreen::pageTop(Prnx &prnx) const
 
 void WithholdingListScreen::exportSheet()
 {
-    if (m_list->ListCount() == 0)
+    if (m_rows.empty())
         return;
     m_list->SendExel(QStringLiteral("Stopaj Listesi"), FormatDate(Today()),
         QStringLiteral("Başlangıç :") + m_dates[0]->Text(), QStringLiteral("Bitiş :") + m_dates[1]->Text());

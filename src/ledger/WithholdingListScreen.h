@@ -2,6 +2,9 @@
 
 #include "controls/Screen.h"
 #include "money/Currency.h"
+#include "printing/ReportColumn.h"
+
+#include <vector>
 
 class DcList;
 class ValueLabel;
@@ -14,16 +17,14 @@ class WithholdingListScreen : public Screen
 {
     Q_OBJECT
 public:
-    enum Column { S = 0, AdSoyad, VerNo, VerDa, Tur, Donem, Brut, Vergi };
-
     explicit WithholdingListScreen(QWidget *parent = nullptr);
 
     void print();
     void exportSheet();
 
 private:
+    static const ReportColumns &columns();
     XText *makeDateField(int index);
-    void defineColumns();
     void listEntered();
     void load(const QString &sql, const QVariantList &values);
     void pageTop(class Prnx &prnx) const;
@@ -33,4 +34,5 @@ private:
     ValueLabel *m_totalGross;
     ValueLabel *m_totalTax;
     QString m_lastQuery;
+    std::vector<QVariantList> m_rows; // the listed rows, as typed cells
 };

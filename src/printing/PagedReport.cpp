@@ -16,8 +16,20 @@ PagedReport::PagedReport(Prnx &prnx, ReportLayout layout)
     , m_linesPerPage(printSettings().lines)
 {
     for (const ReportColumn &column : m_layout.columns)
+        if (column.printed())
+            m_columns.push_back(column);
+    for (const ReportColumn &column : m_columns)
         if (column.summed)
             m_totals.push_back(Currency());
+}
+
+QVariantList PagedReport::printedCells(const QVariantList &cells) const
+{
+    QVariantList printed;
+    for (size_t c = 0; c < m_layout.columns.size() && int(c) < cells.size(); ++c)
+        if (m_layout.columns[c].printed())
+            printed << cells[int(c)];
+    return printed;
 }
 
 void PagedReport::beginPage()
@@ -26,13 +38,14 @@ void PagedReport::beginPage()
         pageHead();
 }
 
-void PagedReport::printRow(const QVariantList &cells)
+void PagedReport::printRow(const QVariantList &row)
 {
     beginPage();
-    printCells(cells);
+    const QVariantList cells = printedCells(row);
+    printLine(cells);
     size_t total = 0;
-    for (size_t c = 0; c < m_layout.columns.size(); ++c) {
-        if (!m_layout.columns[c].summed)
+    for (size_t c = 0; c < m_columns.size(); ++c) {
+        if (!m_columns[c].summed)
             continue;
         const QVariant cell = cells.value(int(c));
         if (cell.userType() == qMetaTypeId<Currency>())
@@ -77,7 +90,7 @@ void PagedReport::pageFoot()
 
 void PagedReport::printHeads()
 {
-    const auto &columns = m_layout.columns;
+    const auto &columns = m_columns;
     for (size_t c = 0; c < columns.size(); ++c) {
         const bool last = c + 1 == columns.size();
         m_prnx.Lprint(columns[c].head, columns[c].width, last, 0, m_layout.boldHeads);
@@ -88,7 +101,7 @@ void PagedReport::printHeads()
 
 void PagedReport::printRules()
 {
-    const auto &columns = m_layout.columns;
+    const auto &columns = m_columns;
     for (size_t c = 0; c < columns.size(); ++c) {
         const bool last = c + 1 == columns.size();
         m_prnx.LinePrint(columns[c].width, false, last);
@@ -99,14 +112,16 @@ void PagedReport::printRules()
 
 void PagedReport::printCells(const QVariantList &cells)
 {
-    const auto &columns = m_layout.columns;
+    printLine(printedCells(cells));
+}
+
+void PagedReport::printLine(const QVariantList &cells)
+{
+    const auto &columns = m_columns;
     const size_t count = qMin(columns.size(), size_t(cells.size()));
     for (size_t c = 0; c < count; ++c) {
-        const QVariant cell = cells.value(int(c));
-        const QString text
-            = cell.userType() == qMetaTypeId<Currency>() ? FormatAmount(cell.value<Currency>()) : cell.toString();
         const bool last = c + 1 == count;
-        m_prnx.Lprint(text, columns[c].width, last, columns[c].align);
+        m_prnx.Lprint(PrintedCellText(cells[int(c)]), columns[c].width, last, columns[c].align);
         if (!last)
             m_prnx.Lprint(gap, 1);
     }
@@ -119,7 +134,7 @@ int PagedReport::captionWidth() const
     if (m_layout.captionWidth > 0)
         return m_layout.captionWidth;
     int width = -1;
-    for (const ReportColumn &column : m_layout.columns) {
+    for (const ReportColumn &column : m_columns) {
         if (column.summed)
             break;
         width += column.width + 1;
@@ -131,8 +146,7 @@ void PagedReport::printCaptionLine(const QString &caption, const QStringList &te
 {
     m_prnx.Lprint(caption, captionWidth(), false, align, bold);
     int text = 0;
-    const auto &columns = m_layout.columns;
-    for (const ReportColumn &column : columns) {
+    for (const ReportColumn &column : m_columns) {
         if (!column.summed)
             continue;
         m_prnx.Lprint(gap, 1);
@@ -151,4 +165,17 @@ QStringList PagedReport::totalTexts() const
     for (Currency total : m_totals)
         texts << FormatAmount(total);
     return texts;
+}
+
+bool PrintPagedReport(
+    int kind, const QString &document, ReportLayout layout, const std::function<void(PagedReport &report)> &rows)
+{
+    Prnx prnx;
+    if (!prnx.OpenPrinter(kind, document, true))
+        return false;
+    PagedReport report(prnx, std::move(layout));
+    rows(report);
+    report.finish();
+    prnx.ClosePrinter();
+    return true;
 }

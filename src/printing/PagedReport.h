@@ -1,6 +1,7 @@
 #pragma once
 
 #include "money/Currency.h"
+#include "printing/ReportColumn.h"
 
 #include <QString>
 #include <QVariant>
@@ -10,21 +11,11 @@
 
 class Prnx;
 
-// One column of a printed list: its heading, its width in print columns, its alignment
-// (0 left, 1 right, 2 centred), and whether its amounts are summed into the running totals.
-struct ReportColumn
-{
-    QString head;
-    int width = 0;
-    int align = 0;
-    bool summed = false;
-};
-
-// How a paged list looks: its columns (one blank column between neighbours), the lines a page
-// begins with, and its carry and total lines.
+// How a paged list looks: its columns (the printed ones of the declaration, one blank column
+// between neighbours), the lines a page begins with, and its carry and total lines.
 struct ReportLayout
 {
-    std::vector<ReportColumn> columns;
+    ReportColumns columns;
     // Printed after a page is begun and before the column heads (title, ranges, page number).
     std::function<void(Prnx &)> pageTop;
     bool boldHeads = true;
@@ -51,8 +42,8 @@ class PagedReport
 public:
     PagedReport(Prnx &prnx, ReportLayout layout);
 
-    // One row: a cell per column; a Currency is printed by FormatAmount (zero as blank) and,
-    // in a summed column, added to the running totals. A row of fewer cells ends after its last.
+    // One row: a cell per declared column (PrintedCellText); an amount in a summed column is
+    // added to the running totals. A row of fewer cells ends after its last.
     void printRow(const QVariantList &cells);
     // Begins a page with its head unless one is begun.
     void beginPage();
@@ -69,6 +60,9 @@ public:
     void printCells(const QVariantList &cells);
 
 private:
+    // The cells of the printed columns, up to the row's last cell.
+    QVariantList printedCells(const QVariantList &cells) const;
+    void printLine(const QVariantList &printed);
     void pageHead();
     void pageFoot();
     int captionWidth() const;
@@ -76,7 +70,14 @@ private:
 
     Prnx &m_prnx;
     ReportLayout m_layout;
+    ReportColumns m_columns; // the printed ones
     int m_linesPerPage;
     std::vector<Currency> m_totals;
     bool m_printed = false;
 };
+
+// The whole printout of a paged list: opens the print engine of kind (Prnx::Graphic or Prnx::Raw,
+// condensed) for the document, gives the report to rows to print them, finishes and closes.
+// False when the printer did not open.
+bool PrintPagedReport(
+    int kind, const QString &document, ReportLayout layout, const std::function<void(PagedReport &report)> &rows);

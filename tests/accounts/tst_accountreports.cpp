@@ -203,7 +203,7 @@ void TestAccountReports::listedOnScreen()
     QCOMPARE(screen->listWindow()->objectName(), QStringLiteral("Form11"));
     QCOMPARE(screen->listWindow()->windowTitle(), QStringLiteral("Genel Borç Alacak Listesi"));
     QCOMPARE(shownRows(screen->listWindow()->list()), rows);
-    QCOMPARE(screen->listWindow()->list()->Caption(3 - (types[1] ? 0 : 2), DebitCreditScreen::ABak),
+    QCOMPARE(screen->listWindow()->list()->CaptionByName(3 - (types[1] ? 0 : 2), QStringLiteral("abak")),
         types[0] ? QStringLiteral("0") : QString()); // X1: settled, 0 on the credit side
     screen->listOnScreen(); // a second listing replaces the rows
     QCOMPARE(shownRows(screen->listWindow()->list()), rows);

@@ -17,8 +17,8 @@ constexpr int linesPerPage = 12; // with room for a footing of 6: six lines of h
 ReportLayout testLayout(bool totalsOnOwnPage = false)
 {
     ReportLayout layout;
-    layout.columns = { { QStringLiteral("No"), 4, 1 }, { QStringLiteral("Açıklama"), 20 },
-        { QStringLiteral("Tutar"), 12, 1, true }, { QStringLiteral("Kdv"), 10, 1, true } };
+    layout.columns = { NumberColumn("no", "No", 4, 0), TextColumn("ack", "Açıklama", 20, 0),
+        AmountColumn("tutar", "Tutar", 12, 0), AmountColumn("kdv", "Kdv", 10, 0) };
     layout.pageTop = [](Prnx &prnx) { prnx.Lprint(QStringLiteral("DENEME LİSTESİ"), 48, true, 2, true); };
     layout.carryCaption = QStringLiteral("Nakli Yekun :");
     layout.boldTotals = true;

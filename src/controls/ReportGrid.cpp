@@ -1,0 +1,41 @@
+#include "controls/ReportGrid.h"
+
+#include "controls/DcList.h"
+#include "controls/GridFill.h"
+#include "money/AmountConventions.h"
+
+void DefineReportColumns(DcList &list, const ReportColumns &columns)
+{
+    const int onda = amountConventions().tlonda;
+    for (const ReportColumn &column : columns) {
+        if (!column.listed())
+            continue;
+        const QString caption = column.listCaption();
+        switch (column.kind) {
+        case CellKind::Text:
+            list.Add(QStringLiteral("a"), column.name, caption, column.pixels, column.width, 0, 0, 0);
+            break;
+        case CellKind::Date:
+            list.Add(QStringLiteral("t"), column.name, caption, column.pixels, 10, 0, 0, 0);
+            break;
+        case CellKind::Number:
+            list.Add(QStringLiteral("n"), column.name, caption, column.pixels, 99999999, 0, 0, 0);
+            break;
+        case CellKind::Amount:
+            list.Add(QStringLiteral("n"), column.name, caption, column.pixels, 999999999999.0, 0, onda, 3);
+            break;
+        }
+    }
+}
+
+bool AddReportRow(DcList &list, const ReportColumns &columns, const QVariantList &cells)
+{
+    const int row = list.CreateNewCaption();
+    if (row < 0)
+        return false;
+    int shown = 0;
+    for (size_t c = 0; c < columns.size(); ++c)
+        if (columns[c].listed())
+            list.setCaption(row, shown++, GridCellText(cells.value(int(c))));
+    return true;
+}
