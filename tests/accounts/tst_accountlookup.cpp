@@ -2,8 +2,7 @@
 #include "controls/DcList.h"
 #include "controls/XText.h"
 #include "testsupport/Books.h"
-#include "testsupport/MessageLog.h"
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/BooksFixture.h"
 #include "testsupport/Typing.h"
 
 #include <QLineEdit>
@@ -35,15 +34,13 @@ private:
     DcList *list(AccountLookup &lookup) const { return lookup.findChild<DcList *>(QStringLiteral("dclist1")); }
     QStringList codes(AccountLookup &lookup) const;
 
-    std::unique_ptr<MessageLog> m_messages;
-    std::unique_ptr<TestDataFolder> m_folder;
+    std::unique_ptr<BooksFixture> m_books;
 };
 
 void TestAccountLookup::init()
 {
-    m_messages = std::make_unique<MessageLog>();
-    m_folder = std::make_unique<TestDataFolder>();
-    QVERIFY(m_folder->isReady());
+    m_books = std::make_unique<BooksFixture>();
+    QVERIFY(m_books->isReady());
     QVERIFY(AddCard(QStringLiteral("MÇ02"), QStringLiteral("Ahmet Kaya")));
     QVERIFY(AddCard(QStringLiteral("MD01"), QStringLiteral("Zeynep Ak")));
     QVERIFY(AddCard(QStringLiteral("A01"), QStringLiteral("Ahenk Ltd.")));
@@ -54,8 +51,7 @@ void TestAccountLookup::init()
 
 void TestAccountLookup::cleanup()
 {
-    m_folder.reset();
-    m_messages.reset();
+    m_books.reset();
     SetSelectedAccountCode(QString());
 }
 
@@ -100,7 +96,7 @@ void TestAccountLookup::searches()
     field(lookup, searchField)->setFocus();
     typeKeys(field(lookup, searchField)->textBox(), typed);
     QCOMPARE(codes(lookup), found);
-    QVERIFY(m_messages->entries().isEmpty());
+    QVERIFY(m_books->messages().entries().isEmpty());
 }
 
 void TestAccountLookup::chosenRowIsReturned()

@@ -2,9 +2,8 @@
 #include "books/DataFiles.h"
 #include "money/Currency.h"
 #include "money/DayNumber.h"
-#include "testsupport/MessageLog.h"
 #include "testsupport/QueryTexts.h"
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/BooksFixture.h"
 
 #include <QtTest>
 
@@ -66,21 +65,18 @@ private slots:
     void storedRowIsVisibleToAnotherConnectionAtOnce();
 
 private:
-    std::unique_ptr<TestDataFolder> m_folder;
-    std::unique_ptr<MessageLog> m_messages;
+    std::unique_ptr<BooksFixture> m_books;
 };
 
 void TestAccessLayer::init()
 {
-    m_messages = std::make_unique<MessageLog>();
-    m_folder = std::make_unique<TestDataFolder>();
-    QVERIFY(m_folder->isReady());
+    m_books = std::make_unique<BooksFixture>();
+    QVERIFY(m_books->isReady());
 }
 
 void TestAccessLayer::cleanup()
 {
-    m_folder.reset();
-    m_messages.reset();
+    m_books.reset();
 }
 
 void TestAccessLayer::seekFindsAndMisses()
@@ -284,17 +280,17 @@ void TestAccessLayer::quotesInTextsAreJustText()
     QVERIFY(
         SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM carkart WHERE kod = ?1"), { QStringLiteral("Q'1") }));
     QCOMPARE(RsCount(carkart()), qint64(0));
-    QVERIFY(m_messages->entries().isEmpty());
+    QVERIFY(m_books->messages().entries().isEmpty());
 }
 
 void TestAccessLayer::queriesReportEmptyAndBadSql()
 {
     std::unique_ptr<Recordset> rows;
     QVERIFY(!QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT * FROM carkart")));
-    QVERIFY(m_messages->entries().isEmpty());
+    QVERIFY(m_books->messages().entries().isEmpty());
     QVERIFY(!QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT * FROM nowhere")));
-    QCOMPARE(m_messages->texts(), QStringList { QStringLiteral("Sql Rapor Yaratılamıyor") });
-    QCOMPARE(m_messages->entries().first().kind, Message::Kind::Exclamation);
+    QCOMPARE(m_books->messages().texts(), QStringList { QStringLiteral("Sql Rapor Yaratılamıyor") });
+    QCOMPARE(m_books->messages().entries().first().kind, Message::Kind::Exclamation);
     QVERIFY(!SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM nowhere")));
 }
 
@@ -327,7 +323,7 @@ void TestAccessLayer::storedRowIsVisibleToAnotherConnectionAtOnce()
 {
     QVERIFY(addCard(QStringLiteral("D1")));
     std::unique_ptr<Database> other;
-    QVERIFY(DbOpen(other, m_folder->dataFile()));
+    QVERIFY(DbOpen(other, m_books->dataFile()));
     std::unique_ptr<Recordset> rows;
     QVERIFY(QueryOpen(*other, rows, QStringLiteral("SELECT kod FROM carkart")));
     QCOMPARE(FieldRead(*rows, QStringLiteral("kod")).toString(), QStringLiteral("D1"));

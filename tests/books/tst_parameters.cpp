@@ -2,8 +2,7 @@
 #include "books/DataFiles.h"
 #include "books/Parameters.h"
 #include "money/AmountConventions.h"
-#include "testsupport/MessageLog.h"
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/BooksFixture.h"
 
 #include <QtTest>
 
@@ -34,21 +33,18 @@ private slots:
     void loadFillsTheSet();
 
 private:
-    std::unique_ptr<MessageLog> m_messages;
-    std::unique_ptr<TestDataFolder> m_folder;
+    std::unique_ptr<BooksFixture> m_books;
 };
 
 void TestParameters::init()
 {
-    m_messages = std::make_unique<MessageLog>();
-    m_folder = std::make_unique<TestDataFolder>();
-    QVERIFY(m_folder->isReady());
+    m_books = std::make_unique<BooksFixture>();
+    QVERIFY(m_books->isReady());
 }
 
 void TestParameters::cleanup()
 {
-    m_folder.reset();
-    m_messages.reset();
+    m_books.reset();
 }
 
 void TestParameters::freshBookReadsEmpty()
@@ -78,7 +74,7 @@ void TestParameters::typedRoundTrip()
     QCOMPARE(GenelCurrenGet(QStringLiteral("serino")), Currency::fromUnits(500));
     QCOMPARE(GenelTxtGet(QStringLiteral("unvan")), QStringLiteral("Av. Şükrü Öztürk"));
     QCOMPARE(GenelTxtGet(QStringLiteral("absent")), QString());
-    QVERIFY(m_messages->entries().isEmpty());
+    QVERIFY(m_books->messages().entries().isEmpty());
 }
 
 void TestParameters::secondWriteEditsTheSameRow()
@@ -116,8 +112,8 @@ void TestParameters::tooLongKeyIsRefused()
         GenelTxtSet(key, QStringLiteral("a"));
     else
         GenelIntegSet(key, 7);
-    QCOMPARE(m_messages->texts(), QStringList { message });
-    QCOMPARE(m_messages->entries().first().kind, Message::Kind::Exclamation);
+    QCOMPARE(m_books->messages().texts(), QStringList { message });
+    QCOMPARE(m_books->messages().entries().first().kind, Message::Kind::Exclamation);
     QCOMPARE(GenelTxtGet(key), QString());
     QCOMPARE(GenelIntegGet(key), 0);
     // the refused record does not linger: the next write of a good key goes through

@@ -1,9 +1,8 @@
 #include "books/AccessLayer.h"
 #include "books/DataFiles.h"
 #include "books/Postings.h"
-#include "testsupport/MessageLog.h"
 #include "testsupport/QueryTexts.h"
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/BooksFixture.h"
 
 #include <QtTest>
 
@@ -38,21 +37,18 @@ private slots:
     void ledgerRows();
 
 private:
-    std::unique_ptr<MessageLog> m_messages;
-    std::unique_ptr<TestDataFolder> m_folder;
+    std::unique_ptr<BooksFixture> m_books;
 };
 
 void TestPostings::init()
 {
-    m_messages = std::make_unique<MessageLog>();
-    m_folder = std::make_unique<TestDataFolder>();
-    QVERIFY(m_folder->isReady());
+    m_books = std::make_unique<BooksFixture>();
+    QVERIFY(m_books->isReady());
 }
 
 void TestPostings::cleanup()
 {
-    m_folder.reset();
-    m_messages.reset();
+    m_books.reset();
 }
 
 void TestPostings::addAnswersTheNewKey()

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "app/MainWindow.h"
-#include "testsupport/MessageLog.h"
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/BooksFixture.h"
 
 #include <QAction>
 #include <QDate>
@@ -13,9 +12,9 @@
 class DcList;
 class XText;
 
-// What a screen test stands on: a fresh data folder, the message-box script and, once asked
-// for, the program's main window with every screen. Make one in init() and drop it in
-// cleanup(); books written before the window is shown are there when its screens open.
+// What a screen test stands on: the books' fixture and, once asked for, the program's main
+// window with every screen. Make one in init() and drop it in cleanup(); books written before the
+// window is shown are there when its screens open.
 class ScreenFixture
 {
 public:
@@ -26,8 +25,8 @@ public:
     ScreenFixture(const ScreenFixture &) = delete;
     ScreenFixture &operator=(const ScreenFixture &) = delete;
 
-    bool isReady() const { return m_folder.isReady(); }
-    MessageLog &messages() { return m_messages; }
+    bool isReady() const { return m_books.isReady(); }
+    MessageLog &messages() { return m_books.messages(); }
     MainWindow &window();
 
     // Chooses a menu item and returns the screen it opened (nullptr when none did).
@@ -38,8 +37,7 @@ public:
     }
 
 private:
-    MessageLog m_messages;
-    TestDataFolder m_folder;
+    BooksFixture m_books;
     std::unique_ptr<MainWindow> m_window;
     bool m_setsToday;
 };

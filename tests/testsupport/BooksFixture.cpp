@@ -1,22 +1,22 @@
-#include "testsupport/TestDataFolder.h"
+#include "testsupport/BooksFixture.h"
 
 #include "books/DataFiles.h"
 #include "books/Parameters.h"
 
-TestDataFolder::TestDataFolder()
+BooksFixture::BooksFixture()
 {
     ResetParameters();
     SetProgramFolder(m_dir.path());
     m_ready = m_dir.isValid() && CreateDataFiles() && OpenDataFiles();
 }
 
-TestDataFolder::~TestDataFolder()
+BooksFixture::~BooksFixture()
 {
     CloseDataFiles();
     ResetParameters();
 }
 
-QString TestDataFolder::dataFile() const
+QString BooksFixture::dataFile() const
 {
     return DataFilePath();
 }
