@@ -179,6 +179,11 @@ void TestAccountTransactions::typedValuesAreNormalised_data()
                              << "3-Emanet"
                              << "B"
                              << "3:0";
+    QTest::newRow("1 and +: the first type") << "1"
+                                             << "+"
+                                             << "1-Nakit"
+                                             << "B"
+                                             << "1:0";
     QTest::newRow("x and b") << "x"
                              << "b"
                              << "0-Devir"

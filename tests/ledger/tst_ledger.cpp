@@ -103,10 +103,10 @@ void TestLedger::typeCell(const QString &keys)
 
 void TestLedger::opensOnTheIncomeOfTheYear()
 {
-    book(0, QDate(2026, 3, 15), 1000, 200, 10, 180);
+    book(0, QDate(2026, 12, 31), 1000, 200, 10, 180); // the year's ends, entered out of date order
     book(0, QDate(2025, 12, 31), 999, 0, 0, 0); // another year
     book(1, QDate(2026, 3, 16), 500, 0, 0, 90); // the other side
-    book(0, QDate(2026, 1, 2), 300, 60, 3, 54);
+    book(0, QDate(2026, 1, 1), 300, 60, 3, 54);
     m_ledger = m_kit->open<LedgerScreen>("mnusdef", "Form8");
     QVERIFY(m_ledger);
     QCOMPARE(m_ledger->windowTitle(), QStringLiteral("Serbest Meslek Defteri (Gelir)"));
@@ -115,7 +115,7 @@ void TestLedger::opensOnTheIncomeOfTheYear()
     QCOMPARE(grid(m_ledger)->ListCount(), 0);
     QTRY_COMPARE(grid(m_ledger)->ListCount(), 3);
     QVERIFY(m_ledger->findChild<QRadioButton *>(QStringLiteral("Option1_0"))->isEnabled());
-    QCOMPARE(shownColumn(grid(m_ledger), LedgerScreen::Tarih), QStringList({ "02.01.2026", "15.03.2026", "" }));
+    QCOMPARE(shownColumn(grid(m_ledger), LedgerScreen::Tarih), QStringList({ "01.01.2026", "31.12.2026", "" }));
     QCOMPARE(shownColumn(grid(m_ledger), LedgerScreen::Brut), QStringList({ "300.00", "1,000.00", "" }));
     QCOMPARE(grid(m_ledger)->CurSat(), 2);
     QCOMPARE(QStringList({ label(1), label(2), label(3), label(4) }),
@@ -224,6 +224,8 @@ void TestLedger::deleteAsksFirst()
 
 void TestLedger::monthlyReport()
 {
+    book(0, QDate(2026, 12, 31), 1000, 200, 10, 180); // the year's ends
+    book(1, QDate(2026, 1, 1), 500, 0, 0, 90);
     book(0, QDate(2026, 3, 15), 1000, 200, 10, 180);
     book(1, QDate(2026, 3, 20), 500, 0, 0, 90);
     book(2, QDate(2026, 11, 1), 100, 0, 0, 18); // any other side counts as an expense
@@ -240,11 +242,13 @@ void TestLedger::monthlyReport()
             texts << list->view()->model()->index(r, c).data().toString();
         return texts;
     };
-    QCOMPARE(row(0), QStringList({ "Ocak", "", "", "", "", "", "" }));
+    QCOMPARE(row(0), QStringList({ "Ocak", "500.00", "90.00", "", "", "", "" }));
+    QCOMPARE(row(1), QStringList({ "Şubat", "", "", "", "", "", "" }));
     QCOMPARE(row(2), QStringList({ "Mart", "500.00", "90.00", "1,000.00", "180.00", "200.00", "10.00" }));
     QCOMPARE(row(10), QStringList({ "Kasım", "100.00", "18.00", "", "", "", "" }));
+    QCOMPARE(row(11), QStringList({ "Aralık", "", "", "1,000.00", "180.00", "200.00", "10.00" }));
     QCOMPARE(row(12), QStringList({ "", "", "", "", "", "", "" }));
-    QCOMPARE(row(13), QStringList({ "TOPLAM", "600.00", "108.00", "1,000.00", "180.00", "200.00", "10.00" }));
+    QCOMPARE(row(13), QStringList({ "TOPLAM", "1,100.00", "198.00", "2,000.00", "360.00", "400.00", "20.00" }));
     QPointer<MonthlyReportScreen> open = report;
     QTest::keyClick(list->view(), Qt::Key_Escape);
     QTRY_VERIFY(open.isNull()); // Esc closes the report

@@ -27,10 +27,11 @@ const QDate today(2026, 11, 16);
 constexpr int linesPerPage = 66;
 const LedgerAmountsInUnits fee { 1000, 200, 10, 180 };
 
-// The n-th income row of the year (1-based), one a day from 1 January.
+// The n-th income row of the year (1-based), one a day from 1 January; entered last row first,
+// so the book's order is the dates', not the entries'.
 void bookIncome(int count, const LedgerAmountsInUnits &amounts = fee)
 {
-    for (int n = 1; n <= count; ++n)
+    for (int n = count; n >= 1; --n)
         QVERIFY(AddLedgerRow(0, QDate(2026, 1, 1).addDays(n - 1), amounts, QString(), QStringLiteral("E%1").arg(n),
             QStringLiteral("Kayıt %1").arg(n)));
 }
@@ -184,8 +185,8 @@ void TestOfficialLedger::listingFromNumberFiveCarriesTheRowsBefore()
 
 void TestOfficialLedger::firstDateContinuesTheNumbering()
 {
-    for (int month = 1; month <= 4; ++month)
-        QVERIFY(AddLedgerRow(0, QDate(2026, month, 10), fee, QString(), QStringLiteral("E%1").arg(month)));
+    for (int month = 1; month <= 4; ++month) // the March row stands on the first date
+        QVERIFY(AddLedgerRow(0, QDate(2026, month, 1), fee, QString(), QStringLiteral("E%1").arg(month)));
     TypeIntoField(field(2), QStringLiteral("01032026"));
     m_screen->listOnScreen();
     QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "3", "4" }));
@@ -228,7 +229,7 @@ void TestOfficialLedger::columnsFollowTheSideAndTheSwitches()
     QFETCH(bool, withholding);
     QFETCH(bool, fund);
     QFETCH(QStringList, columns);
-    QVERIFY(AddLedgerRow(side, QDate(2026, 2, 1), { 500, 100, 5, 90 }));
+    QVERIFY(AddLedgerRow(side, QDate(2026, 12, 31), { 500, 100, 5, 90 })); // the year's last day
     m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(side);
     m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->setChecked(withholding);
     m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->setChecked(fund);

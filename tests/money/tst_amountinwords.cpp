@@ -45,6 +45,8 @@ void TestAmountInWords::words_data()
                              << "birmilyonbin YTL";
     QTest::newRow("2001000") << 2 << "2001000"
                              << "ikimilyonbin YTL";
+    QTest::newRow("1.01") << 2 << "1.01"
+                          << "bir YTL bir YKR";
     QTest::newRow("12.05") << 2 << "12.05"
                            << "oniki YTL beş YKR";
     QTest::newRow("1500.25") << 2 << "1500.25"
