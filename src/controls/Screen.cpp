@@ -2,7 +2,9 @@
 
 #include "controls/OpenInMain.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -26,6 +28,16 @@ void Screen::closeScreen()
         holder->close();
     else
         close();
+}
+
+void Screen::closeEvent(QCloseEvent *event)
+{
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (modal && modal != window()) {
+        event->ignore();
+        return;
+    }
+    QWidget::closeEvent(event);
 }
 
 void Screen::setFocusChain(std::initializer_list<QWidget *> fields)

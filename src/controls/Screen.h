@@ -32,6 +32,9 @@ protected:
     QPushButton *addCommand(
         const QString &objectName, const QString &caption, const QKeySequence &key, std::function<void()> action);
     void keyPressEvent(QKeyEvent *event) override;
+    // A screen is not closed while a modal dialog runs (unless it is that dialog's window): the
+    // dialog lives in a call of the screen's own, which must return first.
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     QPointer<QWidget> m_firstField;

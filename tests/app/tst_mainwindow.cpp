@@ -3,10 +3,12 @@
 #include "app/StartRoutine.h"
 #include "books/OpenBooks.h"
 #include "testsupport/MessageLog.h"
+#include "testsupport/ScreenFixture.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QtTest>
 
 class TestMainWindow : public QObject
@@ -17,6 +19,8 @@ private slots:
     void itemsWaitForTheirScreens();
     void aScreenOpensOnceAndComesForward();
     void splashGivesWayToTheMainWindow();
+    void screenOutlivesItsPrinterDialog_data();
+    void screenOutlivesItsPrinterDialog();
 };
 
 void TestMainWindow::menuIsExactlyTheProgramsMenu()
@@ -93,6 +97,42 @@ void TestMainWindow::splashGivesWayToTheMainWindow()
     QVERIFY(!start.mainWindow());
     QTRY_VERIFY(start.mainWindow() && start.mainWindow()->isVisible());
     QTRY_VERIFY(!start.splash());
+}
+
+void TestMainWindow::screenOutlivesItsPrinterDialog_data()
+{
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<QString>("form");
+    QTest::newRow("Genel Borç Alacak Listesi") << "mnugbor"
+                                               << "Form10";
+    QTest::newRow("Cari Hareket Dökümü") << "mnucareks"
+                                         << "Form16";
+    QTest::newRow("Kasa") << "mnukasa"
+                          << "Form7";
+}
+
+// F8 and at once Ctrl+W: the close reaches the screen while its printer dialog runs.
+void TestMainWindow::screenOutlivesItsPrinterDialog()
+{
+    QFETCH(QString, item);
+    QFETCH(QString, form);
+    ScreenFixture kit;
+    QVERIFY(kit.isReady());
+    QPointer<QWidget> screen = kit.open<QWidget>(qPrintable(item), qPrintable(form));
+    QVERIFY(screen);
+    bool outlived = false;
+    QTimer::singleShot(0, this, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        QVERIFY(dialog);
+        qobject_cast<QMdiSubWindow *>(screen->parentWidget())->close();
+        outlived = !screen.isNull() && screen->isVisible();
+        dialog->findChild<QPushButton *>(QStringLiteral("Command5"))->click(); // "Vazgeç"
+    });
+    QTest::keyClick(screen->focusWidget(), Qt::Key_F8);
+    QVERIFY(outlived);
+    QVERIFY(screen);
+    qobject_cast<QMdiSubWindow *>(screen->parentWidget())->close();
+    QTRY_VERIFY(screen.isNull()); // with the dialog gone it closes
 }
 
 QTEST_MAIN(TestMainWindow)
