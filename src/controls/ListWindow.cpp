@@ -54,7 +54,8 @@ ListWindow *ShowListWindow(
         window = new ListWindow(formName, caption);
         window->setAttribute(Qt::WA_DeleteOnClose);
     }
-    OpenInMain(window);
     window->setColumns(columns);
+    OpenInMain(window);
+    window->fitToColumns();
     return window;
 }
