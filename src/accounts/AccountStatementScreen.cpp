@@ -59,11 +59,14 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
             closeAccount();
             walked = kod;
             debit = credit = Currency();
-            shown = CariExists(kod) && admits(FieldRead(cards, QStringLiteral("tip")).toInt());
+            // Rows under a code without a card are the account's all the same, with an empty title.
+            const bool hasCard = CariExists(kod);
+            shown = !hasCard || admits(FieldRead(cards, QStringLiteral("tip")).toInt());
             if (shown)
                 emitLine(Line::Heading,
-                    { FieldRead(cards, QStringLiteral("kod")), QString(), QString(),
-                        FieldRead(cards, QStringLiteral("unv")).toString() });
+                    { hasCard ? FieldRead(cards, QStringLiteral("kod")) : FieldRead(*rows, QStringLiteral("kod")),
+                        QString(), QString(),
+                        hasCard ? FieldRead(cards, QStringLiteral("unv")).toString() : QString() });
         }
         if (!shown)
             continue;

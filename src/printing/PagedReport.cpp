@@ -7,6 +7,7 @@
 namespace {
 
 const QString gap = QStringLiteral(" ");
+constexpr int footingLines = 2; // the rules and the totals
 
 } // namespace
 
@@ -14,6 +15,7 @@ PagedReport::PagedReport(Prnx &prnx, ReportLayout layout)
     : m_prnx(prnx)
     , m_layout(std::move(layout))
     , m_linesPerPage(printSettings().lines)
+    , m_footRoom(prnx.printertip() == Prnx::Graphic ? qMax(m_layout.footRoom, footingLines) : m_layout.footRoom)
 {
     for (const ReportColumn &column : m_layout.columns)
         if (column.printed())
@@ -53,7 +55,7 @@ void PagedReport::printRow(const QVariantList &row)
         ++total;
     }
     m_printed = true;
-    if (m_prnx.SatirSayisi() + m_layout.footRoom >= m_linesPerPage)
+    if (m_prnx.SatirSayisi() + m_footRoom >= m_linesPerPage)
         pageFoot();
 }
 

@@ -26,7 +26,9 @@ struct ReportLayout
     bool boldTotals = false;
     // The width of the carry and total captions; 0 spans the unsummed columns and their gaps.
     int captionWidth = 0;
-    // A page is full when its line count + footRoom reaches the lines per page.
+    // A page is full when its line count + footRoom reaches the lines per page. On a graphic
+    // page the footing's two lines always have their room (a dot-matrix form may take the
+    // footing after its last line).
     int footRoom = 6;
     // When the last row filled a page exactly: false ends there (its footing holds the totals),
     // true prints the final totals on a page of their own, with its head.
@@ -72,6 +74,7 @@ private:
     ReportLayout m_layout;
     ReportColumns m_columns; // the printed ones
     int m_linesPerPage;
+    int m_footRoom;
     std::vector<Currency> m_totals;
     bool m_printed = false;
 };

@@ -331,7 +331,8 @@ void TestAccountReports::statementOnScreen()
     QCOMPARE(shownRows(screen->listWindow()->list()),
         QStringList({ "K1||||||", "01.03.2026|2-SMM|||1,000.00||1,000.00 B", "02.03.2026|9-Diğer|||-200.00||800.00 B",
                         "01.05.2026|1-Nakit||||300.00|500.00 B", "|||Hesap Toplamı :|800.00|300.00|500.00 B",
-                        "P1||||||", "01.04.2026|6-Maaş||||250.00|250.00 A", "|||Hesap Toplamı :||250.00|250.00 A",
+                        "M5||||||", "01.06.2026|1-Nakit|||999.00||999.00 B", // no card: listed, no title
+                        "|||Hesap Toplamı :|999.00||999.00 B", "P1||||||", "01.04.2026|6-Maaş||||250.00|250.00 A", "|||Hesap Toplamı :||250.00|250.00 A",
                         "X1||||||", "01.02.2026|2-SMM|||500.00||500.00 B", "01.06.2026|1-Nakit||||500.00|",
                         "|||Hesap Toplamı :|500.00|500.00|" })
             .replaceInStrings(QStringLiteral("K1||||||"), QStringLiteral("K1|||Kaya Hukuk|||"))
