@@ -173,9 +173,16 @@ void DcList::setCellFont(const QFont &font)
 
 // Rows and cells ---------------------------------------------------------------------------
 
+// A full list says so once until it is emptied: what it shows is not all there is.
 int DcList::CreateNewCaption()
 {
-    return m_model->appendRow();
+    const int row = m_model->appendRow();
+    if (row < 0 && !m_toldFull) {
+        m_toldFull = true;
+        Message::information(QStringLiteral("Liste %1 satırda kesildi; tarih aralığını daraltınız.")
+                                 .arg(QLocale(QLocale::Turkish).toString(DcListModel::MaxRows)));
+    }
+    return row;
 }
 
 int DcList::ListCount() const
@@ -271,6 +278,7 @@ void DcList::Clear()
     if (m_mode == 2)
         closeEditor();
     m_heldRow = -1;
+    m_toldFull = false;
     m_model->clearRows();
     m_current = -1;
 }

@@ -153,6 +153,7 @@ private:
     bool m_waitingForCheck = false; // a checked value is out with the screen
     QString m_valueBeforeCheck;
     int m_heldRow = -1; // a completed row the screen has not acknowledged yet
+    bool m_toldFull = false; // the user was told the list is full
     QColor m_activeText = Qt::white, m_activeBack = QColor(255, 0, 0);
     QColor m_headerText = QColor(0, 50, 0), m_headerBack = QColor(200, 255, 200);
     QColor m_background = QColor(192, 192, 192);

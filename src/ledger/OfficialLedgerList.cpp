@@ -52,8 +52,8 @@ void OfficialLedgerList::addRow(
     QVariantList cells = { sira, date.isValid() ? QVariant(date) : QVariant(QString()), evrak, ack,
         QVariant::fromValue(amounts.brut), QVariant::fromValue(amounts.stopaj), QVariant::fromValue(amounts.fon),
         QVariant::fromValue(amounts.kdv), QVariant::fromValue(total) };
-    if (ListWindow::addRow(cells))
-        m_rows.push_back(std::move(cells));
+    ListWindow::addRow(cells); // the printout takes every row, also those beyond a full list
+    m_rows.push_back(std::move(cells));
 }
 
 void OfficialLedgerList::yazdir(int kind, int side)

@@ -133,8 +133,7 @@ void WithholdingListScreen::load(const QString &sql, const QVariantList &values)
                 FieldRead(*rows, QStringLiteral("verda")).toString(), QStringLiteral("SMK"),
                 FieldRead(*rows, QStringLiteral("donem")).toDate(), QVariant::fromValue(brut),
                 QVariant::fromValue(vergi) };
-            if (!AddReportRow(*m_list, columns(), cells))
-                break;
+            AddReportRow(*m_list, columns(), cells); // the printout and the totals take every row
             m_rows.push_back(std::move(cells));
             gross += brut;
             tax += vergi;

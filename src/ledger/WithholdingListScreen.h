@@ -34,5 +34,5 @@ private:
     ValueLabel *m_totalGross;
     ValueLabel *m_totalTax;
     QString m_lastQuery;
-    std::vector<QVariantList> m_rows; // the listed rows, as typed cells
+    std::vector<QVariantList> m_rows; // the rows found, as typed cells
 };

@@ -190,8 +190,16 @@ void TestDcList::fullListTakesNoMoreRows()
     for (int i = 0; i < 32751; ++i)
         m_list->CreateNewCaption();
     QCOMPARE(m_list->ListCount(), 32751);
+    QVERIFY(m_messages->entries().isEmpty());
+    QCOMPARE(m_list->CreateNewCaption(), -1);
     QCOMPARE(m_list->CreateNewCaption(), -1);
     QCOMPARE(m_list->ListCount(), 32751);
+    const QStringList told = { QStringLiteral("Liste 32.751 satırda kesildi; tarih aralığını daraltınız.") };
+    QCOMPARE(m_messages->texts(), told); // once for the listing
+    m_list->Clear();
+    for (int i = 0; i <= 32751; ++i)
+        m_list->CreateNewCaption();
+    QCOMPARE(m_messages->texts(), told + told); // and again for the next one
 }
 
 void TestDcList::rowTypedCellByCellIsStoredOnce()

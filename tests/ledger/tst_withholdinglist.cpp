@@ -1,4 +1,6 @@
+#include "books/AccessLayer.h"
 #include "books/Clock.h"
+#include "books/DataFiles.h"
 #include "controls/DcList.h"
 #include "controls/SpreadsheetExport.h"
 #include "controls/XText.h"
@@ -40,6 +42,7 @@ private slots:
     void printedAsPdf();
     void exportedSheet();
     void emptyListDoesNothing();
+    void rowsBeyondTheGridAreCountedAndSaid();
 
 private:
     XText *date(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
@@ -200,11 +203,13 @@ void TestWithholdingList::printedAsPdf()
     enterList();
     const PdfPrintout pdf(
         this, [this] { m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click(); },
-        [](QWidget *dialog) { dialog->findChild<QWidget *>(QStringLiteral("Option1_2"))->setProperty("checked", true); });
+        [](QWidget *dialog) {
+            dialog->findChild<QWidget *>(QStringLiteral("Option1_2"))->setProperty("checked", true);
+        });
     QVERIFY(!printSettings().dotMatrix);
     QCOMPARE(pdf.pageCount(), 2);
-    for (const char *expected : { "StopajListesi", "Dönem:??.??.????\x2d??.??.????", "KayaHukukLtd.", "1234567890",
-             "SMK", "02.01.2026" })
+    for (const char *expected :
+        { "StopajListesi", "Dönem:??.??.????\x2d??.??.????", "KayaHukukLtd.", "1234567890", "SMK", "02.01.2026" })
         QVERIFY2(pdf.text(0).contains(QString::fromUtf8(expected)), expected);
     QVERIFY(pdf.text(1).contains(QStringLiteral("TOPLAM:15,000.003,000.00"))); // the totals of all rows
     QVERIFY2(pdf.footingFault(QStringLiteral("T O P L A M :")).isEmpty(), qPrintable(pdf.footingFault("TOPLAM:")));
@@ -253,6 +258,22 @@ void TestWithholdingList::emptyListDoesNothing()
     QVERIFY(!dialogShown);
     QVERIFY(!opened);
     QCOMPARE(total(1), QString());
+}
+
+// More rows than the grid takes: the user is told, the totals and the printout cover them all.
+void TestWithholdingList::rowsBeyondTheGridAreCountedAndSaid()
+{
+    QVERIFY(SqlExecute(*dataFiles().db,
+        QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 32752) "
+                       "INSERT INTO defter (sira, tarih, islem, evrak, cari, ack, brut, stopaj, fon, kdv) "
+                       "SELECT 0, ?1 + i % 300, 0, 'E', 'K1', 'Kayıt', 1000000, 200000, 0, 0 FROM n"),
+        { DayNumber(QDate(2026, 1, 1)) }));
+    enterList();
+    QCOMPARE(grid()->ListCount(), 32751);
+    QCOMPARE(m_kit->messages().texts(),
+        QStringList { QStringLiteral("Liste 32.751 satırda kesildi; tarih aralığını daraltınız.") });
+    QCOMPARE(total(1), QStringLiteral("3,275,200.00"));
+    QCOMPARE(total(0), QStringLiteral("655,040.00"));
 }
 
 QTEST_MAIN(TestWithholdingList)
