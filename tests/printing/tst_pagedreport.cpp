@@ -44,6 +44,8 @@ private slots:
     void lastRowFillingAPageEndsThere_data();
     void lastRowFillingAPageEndsThere();
     void graphicPagesAsPdf();
+    void printedCells_data();
+    void printedCells();
 
 private:
     void printRows(int count, bool totalsOnOwnPage);
@@ -170,6 +172,25 @@ void TestPagedReport::graphicPagesAsPdf()
     QVERIFY(!pages[0].contains(QStringLiteral("Nakli Yekun :")));
     QVERIFY2(pages[1].contains(QStringLiteral("Nakli Yekun :")), qPrintable(pages[1]));
     QVERIFY(pages[1].contains(QStringLiteral("Satır %1").arg(rowsPerPage + 1)));
+}
+
+void TestPagedReport::printedCells_data()
+{
+    QTest::addColumn<QVariant>("cell");
+    QTest::addColumn<QString>("printed");
+    QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(QStringLiteral("1234.5"))) << "1,234.50";
+    QTest::newRow("zero amount: blank") << QVariant::fromValue(Currency()) << "";
+    QTest::newRow("number") << QVariant(10001) << "10001";
+    QTest::newRow("zero number: blank") << QVariant(0) << "";
+    QTest::newRow("date") << QVariant(QDate(2026, 12, 31)) << "31.12.2026";
+    QTest::newRow("text as it is") << QVariant(QStringLiteral(" 0 ")) << " 0 ";
+}
+
+void TestPagedReport::printedCells()
+{
+    QFETCH(QVariant, cell);
+    QFETCH(QString, printed);
+    QCOMPARE(PrintedCellText(cell), printed);
 }
 
 QTEST_MAIN(TestPagedReport)
