@@ -7,6 +7,7 @@
 #include "controls/EntryRules.h"
 #include "controls/QuickFont.h"
 #include "controls/SpreadsheetExport.h"
+#include "money/RoundAmount.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -549,7 +550,8 @@ bool DcList::checkCell()
         return true;
     }
     if (column.isNumber()) {
-        if (column.kosul == 2 && ExactNumberText(value) == u"0") {
+        // Zero is what would be stored: the amount rounded as amounts are.
+        if (column.kosul == 2 && RoundAmount(Currency::fromString(ExactNumberText(value))) == Currency()) {
             Message::exclamation(QStringLiteral("Bir Sayi Girmelisiniz."));
             return false;
         }

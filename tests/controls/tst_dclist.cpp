@@ -241,6 +241,8 @@ void TestDcList::refusedCellsKeepTheEditor_data()
                                 << "En Az Bir Harf Girmelisiniz.";
     QTest::newRow("zero amount") << 2 << "0"
                                  << "Bir Sayi Girmelisiniz.";
+    QTest::newRow("amount that rounds to zero") << 2 << "0.00001"
+                                                << "Bir Sayi Girmelisiniz.";
 }
 
 void TestDcList::refusedCellsKeepTheEditor()
