@@ -1,5 +1,7 @@
 #include "receipts/DepositScreen.h"
 
+#include "books/Message.h"
+
 #include "books/Parameters.h"
 #include "controls/XText.h"
 #include "money/FormatAmount.h"
@@ -28,6 +30,12 @@ void DepositScreen::reset()
 
 void DepositScreen::save()
 {
+    if (field(Amount)->amount() <= Currency()) {
+        Message::notice(QStringLiteral("Tutar Yazılmamış.."));
+        return;
+    }
+    if (!postable())
+        return;
     parameters().emanet = field(Number)->amount();
     GenelCurrenSet(QStringLiteral("emanet"), parameters().emanet);
     postToAccount(3, 1, field(Amount)->amount());

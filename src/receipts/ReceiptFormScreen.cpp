@@ -134,6 +134,19 @@ QDate ReceiptFormScreen::receiptDate() const
     return DateFromDayNumber(field(Date)->Value().toLongLong());
 }
 
+bool ReceiptFormScreen::postable() const
+{
+    if (field(Date)->Value().toLongLong() <= 0) {
+        Message::exclamation(QStringLiteral("Hatalı Tarih Girildi.\nMakbuz Kaydedilmedi."));
+        return false;
+    }
+    if (field(Code)->Text().trimmed().isEmpty()) {
+        Message::exclamation(QStringLiteral("Cari Kod Girilmemiş.\nMakbuz Kaydedilmedi."));
+        return false;
+    }
+    return true;
+}
+
 void ReceiptFormScreen::postToAccount(int islem, int ba, Currency amount)
 {
     const AccountPosting posting { field(Code)->Text(), receiptDate(), islem, field(Number)->Text(),

@@ -41,6 +41,8 @@ protected:
     void focusCodeField();
     // The receipt's date.
     QDate receiptDate() const;
+    // Whether the receipt has a date and an account to be posted under; says what is missing.
+    bool postable() const;
     // The receipt's row in the account's transactions: code, date, number and description from
     // the fields; a failure is shown, not returned.
     void postToAccount(int islem, int ba, Currency amount);

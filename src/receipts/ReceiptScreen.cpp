@@ -139,7 +139,7 @@ void ReceiptScreen::save()
         Message::exclamation(QStringLiteral("Tutar çok büyük; makbuz kaydedilmedi."));
         return;
     }
-    if (m_total <= Currency())
+    if (m_total <= Currency() || !postable())
         return;
     GenelTxtSet(QStringLiteral("lastack"), field(Description)->Text());
     parameters().serino = field(Number)->amount();

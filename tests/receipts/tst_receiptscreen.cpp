@@ -61,6 +61,8 @@ private slots:
     void refusedPostingIsReported_data();
     void refusedPostingIsReported();
     void depositIsPostedAsACredit();
+    void incompleteDepositIsRefused_data();
+    void incompleteDepositIsRefused();
     void depositFormOnTheDotMatrixPrinter();
     void depositFormAsPdf();
 
@@ -415,6 +417,28 @@ void TestReceiptScreen::depositIsPostedAsACredit()
     QCOMPARE(depositField(0)->Text(), QStringLiteral("121"));
     QCOMPARE(depositField(9)->Text(), QString());
     QVERIFY(m_kit->messages().entries().isEmpty());
+}
+
+void TestReceiptScreen::incompleteDepositIsRefused_data()
+{
+    QTest::addColumn<int>("emptied");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("no date") << 1 << "Hatalı Tarih Girildi.\nMakbuz Kaydedilmedi.";
+    QTest::newRow("no account") << 2 << "Cari Kod Girilmemiş.\nMakbuz Kaydedilmedi.";
+    QTest::newRow("no amount") << 9 << "Tutar Yazılmamış..";
+}
+
+void TestReceiptScreen::incompleteDepositIsRefused()
+{
+    QFETCH(int, emptied);
+    QFETCH(QString, message);
+    QVERIFY(openDeposit());
+    fillDeposit();
+    depositField(emptied)->setText(QString());
+    QTest::keyClick(depositField(8)->textBox(), Qt::Key_F5);
+    QCOMPARE(m_kit->messages().texts(), QStringList { message });
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "0" });
+    QCOMPARE(GenelCurrenGet(QStringLiteral("emanet")), Currency());
 }
 
 void TestReceiptScreen::depositFormOnTheDotMatrixPrinter()
