@@ -2,9 +2,11 @@
 #include "app/SplashWindow.h"
 #include "app/StartRoutine.h"
 #include "books/OpenBooks.h"
+#include "controls/ValueLabel.h"
 #include "testsupport/MessageLog.h"
 #include "testsupport/ScreenFixture.h"
 
+#include <QAccessible>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -19,6 +21,7 @@ private slots:
     void itemsWaitForTheirScreens();
     void aScreenOpensOnceAndComesForward();
     void splashGivesWayToTheMainWindow();
+    void valueLabelsReadAsTheyShow();
     void screenOutlivesItsPrinterDialog_data();
     void screenOutlivesItsPrinterDialog();
 };
@@ -97,6 +100,25 @@ void TestMainWindow::splashGivesWayToTheMainWindow()
     QVERIFY(!start.mainWindow());
     QTRY_VERIFY(start.mainWindow() && start.mainWindow()->isVisible());
     QTRY_VERIFY(!start.splash());
+}
+
+// Every screen's value labels, empty or not, read as what they show (and say what they are).
+void TestMainWindow::valueLabelsReadAsTheyShow()
+{
+    ScreenFixture kit;
+    QVERIFY(kit.isReady());
+    for (QAction *top : kit.window().menuBar()->actions())
+        for (QAction *item : top->menu()->actions())
+            if (!item->isSeparator() && item->objectName() != u"mnudiz")
+                item->trigger();
+    const QList<ValueLabel *> labels = kit.window().findChildren<ValueLabel *>();
+    QVERIFY(labels.size() > 20);
+    for (ValueLabel *label : labels) {
+        QAccessibleInterface *read = QAccessible::queryAccessibleInterface(label);
+        QVERIFY(read);
+        QCOMPARE(read->text(QAccessible::Name), label->text());
+        QVERIFY(!read->text(QAccessible::Description).isEmpty());
+    }
 }
 
 void TestMainWindow::screenOutlivesItsPrinterDialog_data()
