@@ -166,9 +166,9 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
             grid->setCaption(row, Oto, FieldRead(*rows, QStringLiteral("oto")).toString());
         }
     }
+    recompute(0); // the empty row for a new entry gets its balance with the first change
     endListing();
     m_listing = false;
-    recompute(0);
 }
 
 // The running balance after every row from fromRow on, and the panel. A row's side is its B/A
