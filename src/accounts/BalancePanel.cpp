@@ -44,10 +44,11 @@ BalancePanel::BalancePanel(QWidget *parent)
 
 bool BalancePanel::sums(const QString &code, bool receipts, Currency *debit, Currency *credit) const
 {
-    const QString sql = QStringLiteral("SELECT sum(tutar * (ba = 0)) AS bsmm, sum(tutar * (ba = 1)) AS asmm "
-                                       "FROM carhar WHERE %1 AND islem %2 2")
-                            .arg(AnySpelling(QStringLiteral("kod"), QStringLiteral("?1")),
-                                receipts ? QStringLiteral("=") : QStringLiteral("<>"));
+    const QString sql
+        = QStringLiteral("SELECT amountsum(tutar * (ba = 0)) AS bsmm, amountsum(tutar * (ba = 1)) AS asmm "
+                         "FROM carhar WHERE %1 AND islem %2 2")
+              .arg(AnySpelling(QStringLiteral("kod"), QStringLiteral("?1")),
+                  receipts ? QStringLiteral("=") : QStringLiteral("<>"));
     std::unique_ptr<Recordset> result;
     if (!QueryOpen(*dataFiles().db, result, sql, { code }))
         return false;

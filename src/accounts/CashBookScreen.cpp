@@ -203,7 +203,7 @@ void CashBookScreen::readCarryOver(QDate date)
 {
     std::unique_ptr<Recordset> sums;
     if (!QueryOpen(*dataFiles().db, sums,
-            QStringLiteral("SELECT sum(tutar * (ba <> 0)) AS brc, sum(tutar * (ba = 0)) AS ala FROM carhar "
+            QStringLiteral("SELECT amountsum(tutar * (ba <> 0)) AS brc, amountsum(tutar * (ba = 0)) AS ala FROM carhar "
                            "WHERE islem IN (1, 3) AND tarih < ?1"),
             { DayNumber(date) }))
         return;
@@ -248,7 +248,7 @@ void CashBookScreen::showAccount(const QString &code)
     m_accountTitle->setValue(FieldRead(*dataFiles().carkart, QStringLiteral("unv")).toString());
     std::unique_ptr<Recordset> balance;
     if (QueryOpen(*dataFiles().db, balance,
-            QStringLiteral("SELECT sum(tutar * (-2 * ba + 1)) AS baki FROM carhar WHERE %1")
+            QStringLiteral("SELECT amountsum(tutar * (-2 * ba + 1)) AS baki FROM carhar WHERE %1")
                 .arg(AnySpelling(QStringLiteral("kod"), QStringLiteral("?1"))),
             { code }))
         m_accountBalance->setValue(FormatAmount(AmountSumRead(*balance, QStringLiteral("baki"))));

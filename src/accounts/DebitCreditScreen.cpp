@@ -22,13 +22,13 @@ DebitCreditScreen::DebitCreditScreen(QWidget *parent)
 std::vector<DebitCreditScreen::Account> DebitCreditScreen::accounts() const
 {
     QVariantList values;
-    const QString sql
-        = QStringLiteral("SELECT k.kod AS kod, k.unv AS unv, k.tip AS tip, sum(s.borc) AS borc, "
-                         "sum(s.alacak) AS alacak FROM (SELECT kod, sum(CASE WHEN ba = 0 THEN tutar END) AS borc, "
-                         "sum(CASE WHEN ba <> 0 THEN tutar END) AS alacak FROM (SELECT c.kod AS kod, c.ba AS ba, "
-                         "sum(c.tutar) AS tutar FROM carhar c WHERE %1 GROUP BY c.kod, c.ba) GROUP BY kod) s "
-                         "JOIN carkart k ON %2 GROUP BY k.kod ORDER BY k.kod COLLATE TR")
-              .arg(rangeCondition(values), AnySpelling(QStringLiteral("k.kod"), QStringLiteral("s.kod")));
+    const QString sql = QStringLiteral(
+        "SELECT k.kod AS kod, k.unv AS unv, k.tip AS tip, amountsum(s.borc) AS borc, "
+        "amountsum(s.alacak) AS alacak FROM (SELECT kod, amountsum(CASE WHEN ba = 0 THEN tutar END) AS borc, "
+        "amountsum(CASE WHEN ba <> 0 THEN tutar END) AS alacak FROM (SELECT c.kod AS kod, c.ba AS ba, "
+        "amountsum(c.tutar) AS tutar FROM carhar c WHERE %1 GROUP BY c.kod, c.ba) GROUP BY kod) s "
+        "JOIN carkart k ON %2 GROUP BY k.kod ORDER BY k.kod COLLATE TR")
+                            .arg(rangeCondition(values), AnySpelling(QStringLiteral("k.kod"), QStringLiteral("s.kod")));
     std::vector<Account> found;
     std::unique_ptr<Recordset> rows;
     if (!QueryOpen(*dataFiles().db, rows, sql, values))

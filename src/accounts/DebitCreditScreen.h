@@ -29,8 +29,16 @@ private:
         QString kod, unv;
         Currency debit, credit;
         bool listed = false;
-        Currency debitBalance() const { return debit > credit ? debit - credit : Currency(); }
-        Currency creditBalance() const { return debit > credit ? Currency() : credit - debit; }
+        // A side that cannot be summed leaves both balances unknown (the overflow mark).
+        bool summed() const { return debit.isValid() && credit.isValid(); }
+        Currency debitBalance() const
+        {
+            return !summed() ? Currency::overflow() : debit > credit ? debit - credit : Currency();
+        }
+        Currency creditBalance() const
+        {
+            return !summed() ? Currency::overflow() : debit > credit ? Currency() : credit - debit;
+        }
         // A row of the report's columns.
         QVariantList cells() const;
     };

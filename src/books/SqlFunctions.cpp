@@ -1,6 +1,7 @@
 #include "books/SqlFunctions.h"
 
 #include "books/TurkishText.h"
+#include "money/Currency.h"
 #include "money/DayNumber.h"
 
 #include <QCollator>
@@ -81,6 +82,40 @@ void caseSpellings(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_text(context, json.constData(), int(json.size()), SQLITE_TRANSIENT);
 }
 
+// amountsum(amount): the sum of the amounts (ten-thousandths) that are not Null, Null when there
+// are none; a sum that a Currency cannot hold, or that meets the overflow mark, is the overflow
+// mark (the engine's sum() would stop the whole query with an error).
+struct AmountSum
+{
+    sqlite3_int64 total;
+    bool any;
+    bool overflow;
+};
+
+void amountSumStep(sqlite3_context *context, int, sqlite3_value **arguments)
+{
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL)
+        return;
+    auto *sum = static_cast<AmountSum *>(sqlite3_aggregate_context(context, sizeof(AmountSum)));
+    if (!sum) {
+        sqlite3_result_error_nomem(context);
+        return;
+    }
+    sum->any = true;
+    const sqlite3_int64 value = sqlite3_value_int64(arguments[0]);
+    if (value == Currency::overflow().raw() || __builtin_add_overflow(sum->total, value, &sum->total))
+        sum->overflow = true;
+}
+
+void amountSumFinal(sqlite3_context *context)
+{
+    const auto *sum = static_cast<AmountSum *>(sqlite3_aggregate_context(context, 0));
+    if (!sum || !sum->any)
+        sqlite3_result_null(context);
+    else
+        sqlite3_result_int64(context, sum->overflow ? Currency::overflow().raw() : sum->total);
+}
+
 // A deterministic function; `data` is what sqlite3_user_data gives it.
 bool addFunction(sqlite3 *db, const char *name, int arguments,
     void (*function)(sqlite3_context *, int, sqlite3_value **), const void *data = nullptr)
@@ -98,5 +133,8 @@ bool registerSqlFunctions(sqlite3 *db)
     static const DatePart month = DatePart::Month;
     return sqlite3_create_collation_v2(db, "TR", SQLITE_UTF8, nullptr, compareTurkish, nullptr) == SQLITE_OK
         && addFunction(db, "year", 1, partOfDayNumber, &year) && addFunction(db, "month", 1, partOfDayNumber, &month)
-        && addFunction(db, "startsWith", 2, startsWithTurkish) && addFunction(db, "spellings", 1, caseSpellings);
+        && addFunction(db, "startsWith", 2, startsWithTurkish) && addFunction(db, "spellings", 1, caseSpellings)
+        && sqlite3_create_function_v2(db, "amountsum", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, nullptr,
+               amountSumStep, amountSumFinal, nullptr)
+        == SQLITE_OK;
 }

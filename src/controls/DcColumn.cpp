@@ -1,5 +1,6 @@
 #include "controls/DcColumn.h"
 
+#include "money/Currency.h"
 #include "money/DayNumber.h"
 #include "money/FormatAmount.h"
 
@@ -15,7 +16,8 @@ QString DcColumn::display(const QString &value) const
     switch (kind().unicode()) {
     case u'n':
     case u'b':
-        return FormatNumber(value, onda, grup);
+        // An amount that could not be summed shows its mark ("Taşma") as it is.
+        return value == Currency::overflow().toString() ? value : FormatNumber(value, onda, grup);
     case u't': {
         const QDate date = QDate::fromString(value, QStringLiteral("dd.MM.yyyy"));
         return date.isValid() ? FormatDate(date) : value;

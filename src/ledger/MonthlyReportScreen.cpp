@@ -46,9 +46,10 @@ void MonthlyReportScreen::compute()
     std::array<std::array<Currency, 7>, 12> month {};
     std::unique_ptr<Recordset> rows;
     if (QueryOpen(*dataFiles().db, rows,
-            QStringLiteral("SELECT month(tarih) AS ay, islem = 0 AS gelir, sum(brut) AS brut, sum(stopaj) AS stopaj, "
-                           "sum(fon) AS fon, sum(kdv) AS kdv FROM defter WHERE tarih >= ?1 AND tarih <= ?2 "
-                           "GROUP BY ay, gelir"),
+            QStringLiteral(
+                "SELECT month(tarih) AS ay, islem = 0 AS gelir, amountsum(brut) AS brut, amountsum(stopaj) AS stopaj, "
+                "amountsum(fon) AS fon, amountsum(kdv) AS kdv FROM defter WHERE tarih >= ?1 AND tarih <= ?2 "
+                "GROUP BY ay, gelir"),
             { DayNumber(QDate(year, 1, 1)), DayNumber(QDate(year, 12, 31)) })) {
         do {
             const int m = FieldRead(*rows, QStringLiteral("ay")).toInt() - 1;

@@ -80,6 +80,7 @@ private slots:
     void listedOnScreen_data();
     void listedOnScreen();
     void datesBoundTheSums();
+    void sumBeyondTheMoneyTypeShowsOverflow();
     void debitCreditPagesOnTheDotMatrixPrinter_data();
     void debitCreditPagesOnTheDotMatrixPrinter();
     void nothingAdmittedPrintsEmptyTotals();
@@ -231,6 +232,24 @@ QByteArray TestAccountReports::printRaw()
     return m_spooler->receive([this] { QTest::keyClick(field(0)->textBox(), Qt::Key_F8); });
 }
 
+// Three rows at the largest amount a cell takes: that account and the totals show "Taşma", the
+// other accounts stand.
+void TestAccountReports::sumBeyondTheMoneyTypeShowsOverflow()
+{
+    QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk")));
+    QVERIFY(AddCard(QStringLiteral("X1"), QStringLiteral("Ağaoğlu")));
+    for (int n = 0; n < 3; ++n)
+        QVERIFY(AddTransaction(QStringLiteral("K1"), 2, 0, Currency::fromString(QStringLiteral("922337203685476"))));
+    QVERIFY(AddTransaction(QStringLiteral("X1"), 2, 0, lira(500)));
+    auto *screen = open<DebitCreditScreen>("mnugbor", "Form10");
+    QVERIFY(screen);
+    screen->listOnScreen();
+    QVERIFY(m_kit->messages().entries().isEmpty());
+    QCOMPARE(shownRows(screen->listWindow()->list()),
+        QStringList(
+            { "K1|Kaya Hukuk|Taşma||Taşma|Taşma", "X1|Ağaoğlu|500.00||500.00|", "|T O P L A M|Taşma||Taşma|Taşma" }));
+}
+
 void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter_data()
 {
     QTest::addColumn<int>("accounts");
@@ -333,9 +352,9 @@ void TestAccountReports::statementOnScreen()
         QStringList({ "K1||||||", "01.03.2026|2-SMM|||1,000.00||1,000.00 B", "02.03.2026|9-Diğer|||-200.00||800.00 B",
                         "01.05.2026|1-Nakit||||300.00|500.00 B", "|||Hesap Toplamı :|800.00|300.00|500.00 B",
                         "M5||||||", "01.06.2026|1-Nakit|||999.00||999.00 B", // no card: listed, no title
-                        "|||Hesap Toplamı :|999.00||999.00 B", "P1||||||", "01.04.2026|6-Maaş||||250.00|250.00 A", "|||Hesap Toplamı :||250.00|250.00 A",
-                        "X1||||||", "01.02.2026|2-SMM|||500.00||500.00 B", "01.06.2026|1-Nakit||||500.00|",
-                        "|||Hesap Toplamı :|500.00|500.00|" })
+                        "|||Hesap Toplamı :|999.00||999.00 B", "P1||||||", "01.04.2026|6-Maaş||||250.00|250.00 A",
+                        "|||Hesap Toplamı :||250.00|250.00 A", "X1||||||", "01.02.2026|2-SMM|||500.00||500.00 B",
+                        "01.06.2026|1-Nakit||||500.00|", "|||Hesap Toplamı :|500.00|500.00|" })
             .replaceInStrings(QStringLiteral("K1||||||"), QStringLiteral("K1|||Kaya Hukuk|||"))
             .replaceInStrings(QStringLiteral("P1||||||"), QStringLiteral("P1|||Ali Veli|||"))
             .replaceInStrings(QStringLiteral("X1||||||"), QStringLiteral("X1|||Ağaoğlu|||")));
