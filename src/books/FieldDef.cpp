@@ -1,5 +1,6 @@
 #include "books/FieldDef.h"
 
+#include "books/CharacterCount.h"
 #include "money/Currency.h"
 #include "money/DayNumber.h"
 
@@ -243,7 +244,7 @@ bool FieldDef::toStorage(const QVariant &value, QVariant *stored) const
         // Every character counts towards the size, and a NUL would hide what follows it.
         const QString text
             = value.userType() == qMetaTypeId<Currency>() ? value.value<Currency>().toString() : value.toString();
-        if (text.contains(QChar(0)) || (type == FieldType::Text && text.size() > size))
+        if (text.contains(QChar(0)) || (type == FieldType::Text && CharacterCount(text) > size))
             return false;
         *stored = text;
         return true;

@@ -1,5 +1,6 @@
 #include "controls/DcCellEditor.h"
 
+#include "controls/CharacterLimit.h"
 #include "controls/EntryRules.h"
 
 #include <QApplication>
@@ -20,7 +21,10 @@ void DcCellEditor::open(const DcColumn &column, const QString &value)
 {
     m_column = column;
     // The length first: the previous cell's limit must not cut the new value.
-    setMaxLength(column.isNumber() || column.maxValue < 1 ? 32767 : column.isDate() ? 10 : int(column.maxValue));
+    const bool text = !column.isNumber() && !column.isDate();
+    LimitCharacters(this, text ? int(column.maxValue) : 0);
+    if (column.isDate())
+        setMaxLength(10);
     setText(column.isDate() ? column.display(value) : value);
     if (column.isNumber()) {
         setAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -1,5 +1,6 @@
 #include "controls/XText.h"
 
+#include "controls/CharacterLimit.h"
 #include "controls/EntryRules.h"
 #include "controls/QuickFont.h"
 #include "money/DayNumber.h"
@@ -105,7 +106,7 @@ void XText::xTextBicim(int tip, double maxLen, Qt::Alignment alignment, bool aut
     } else {
         setTextTip(TextFormat);
         m_maxLenght = qint16(maxLen);
-        m_edit->setMaxLength(m_maxLenght > 0 ? int(m_maxLenght) : 32767);
+        LimitCharacters(m_edit, int(m_maxLenght));
         m_edit->setAlignment(alignment | Qt::AlignVCenter);
         m_autoSelect = autoSelect;
     }
@@ -140,7 +141,7 @@ void XText::loadDesign(const QMap<QString, QString> &design)
     case TextFormat:
         if (m_maxLenght > 256)
             m_maxLenght = 0;
-        m_edit->setMaxLength(m_maxLenght > 0 ? int(m_maxLenght) : 32767);
+        LimitCharacters(m_edit, int(m_maxLenght));
         m_edit->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         setPassWordChar(design.value(QStringLiteral("xtextpwd")));
         break;

@@ -32,6 +32,7 @@ private slots:
     void nothingToDelete();
     void unknownCodeEmptiesTheList();
     void escapeGoesBackThenCloses();
+    void descriptionCountsCharacters();
 
 private:
     XText *code() const { return m_screen->findChild<XText *>(QStringLiteral("xtext1")); }
@@ -317,6 +318,16 @@ void TestAccountTransactions::escapeGoesBackThenCloses()
     QVERIFY(code()->textBox()->hasFocus());
     QTest::keyClick(code()->textBox(), Qt::Key_Escape);
     QTRY_VERIFY(!m_screen);
+}
+
+// 40 characters, the last an emoji (two UTF-16 units): stored whole; a 41st is not taken.
+void TestAccountTransactions::descriptionCountsCharacters()
+{
+    chooseAccount(QStringLiteral("K1"));
+    const QString description = QString(39, u'a') + QStringLiteral("\U0001F600");
+    TypeGridRow(grid(), { "05", "M12", description + u'b', "1", "+", "250" });
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT ack FROM carhar"), QStringLiteral("ack")), QStringList { description });
+    QVERIFY(m_kit->messages().entries().isEmpty());
 }
 
 QTEST_MAIN(TestAccountTransactions)

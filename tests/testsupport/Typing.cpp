@@ -4,7 +4,8 @@
 
 void typeKeys(QWidget *widget, const QString &keys)
 {
-    for (QChar c : keys) {
+    for (qsizetype i = 0; i < keys.size(); ++i) {
+        const QChar c = keys[i];
         if (c == u'\b')
             QTest::keyClick(widget, Qt::Key_Backspace);
         else if (c == u'\r')
@@ -13,6 +14,8 @@ void typeKeys(QWidget *widget, const QString &keys)
             QTest::keyClick(widget, Qt::Key_Delete);
         else if (c.unicode() < 128)
             QTest::keyClick(widget, c.toLatin1());
+        else if (c.isHighSurrogate() && i + 1 < keys.size()) // a character outside the basic plane: one key
+            QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, keys.mid(i++, 2), Qt::NoModifier);
         else
             QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(c), Qt::NoModifier);
     }
