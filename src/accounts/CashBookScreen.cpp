@@ -60,7 +60,7 @@ CashBookScreen::CashBookScreen(QWidget *parent)
     auto *printButton = new QPushButton(QStringLiteral(" Yazdır (F8) "), this);
     printButton->setObjectName(QStringLiteral("yazdir"));
     printButton->setFocusPolicy(Qt::NoFocus);
-    connect(printButton, &QPushButton::clicked, this, &CashBookScreen::print);
+    connect(printButton, &QPushButton::clicked, this, &CashBookScreen::printDay);
     auto *top = new QHBoxLayout;
     top->addWidget(labelFor(QStringLiteral("İşlem Tarihi"), m_date));
     top->addWidget(m_date);
@@ -155,22 +155,28 @@ bool CashBookScreen::eventFilter(QObject *watched, QEvent *event)
 // The day is listed once per visit from the date field.
 void CashBookScreen::gridEntered()
 {
-    if (m_dateChecked)
-        return;
+    if (!m_dateChecked)
+        listTypedDay();
+}
+
+bool CashBookScreen::listTypedDay()
+{
     m_dateChecked = true;
     if (!day().isValid()) {
         list()->setEditable(false);
         Message::exclamation(QStringLiteral("Hatalı Tarih.."));
-        return;
+        return false;
     }
     listDay(day());
     list()->setEditable(true);
+    return true;
 }
 
 void CashBookScreen::listDay(QDate date)
 {
     DcList *grid = list();
     grid->Clear();
+    m_listedDay = date;
     m_dayDebit = m_dayCredit = Currency();
     const qint64 number = DayNumber(date);
     std::unique_ptr<Recordset> rows;
@@ -284,7 +290,7 @@ void CashBookScreen::storeRow(int)
     if (!cashIn.isZero() && !cashOut.isZero())
         grid->setText(Borc, QString());
     const bool in = Currency::fromString(grid->Text(Borc)) > Currency();
-    const AccountPosting posting { grid->Text(Kod), day(), grid->Text(Em) == u"E" ? 3 : 1, grid->Text(Evrak),
+    const AccountPosting posting { grid->Text(Kod), m_listedDay, grid->Text(Em) == u"E" ? 3 : 1, grid->Text(Evrak),
         grid->Text(Ack), in ? 1 : 0, in ? cashIn : cashOut };
     const qint64 oto = StoreAccountPosting(editedKey(), posting);
     if (oto > 0)
@@ -306,7 +312,7 @@ void CashBookScreen::listKey(int key, int, int)
             list()->SetTextBox(code);
         list()->editor()->setFocus();
     } else if (key == Qt::Key_F8 && list()->CurrentMode() != 2) {
-        print();
+        printDay();
     }
 }
 
@@ -315,10 +321,16 @@ void CashBookScreen::dateKey(int &key, Qt::KeyboardModifiers &)
     if (key == Qt::Key_Escape)
         closeScreen();
     else if (key == Qt::Key_F8)
-        print();
+        printDay();
     else
         return;
     key = 0;
+}
+
+void CashBookScreen::printDay()
+{
+    if (m_dateChecked || listTypedDay())
+        print();
 }
 
 // The day on one page, with the totals the screen shows.
@@ -340,7 +352,7 @@ void CashBookScreen::print()
     prnx.Lprint(QStringLiteral(" "), 1, true);
     prnx.Lprint(printSettings().title, 80, true, 2, true);
     prnx.Lprint(QStringLiteral("Tarih :"), 10, false, 1);
-    prnx.Lprint(m_date->Text(), 12, true);
+    prnx.Lprint(FormatDate(m_listedDay), 12, true);
     prnx.Lprint(QStringLiteral(" "), 1, true);
     page.printHeads();
     page.printRules();

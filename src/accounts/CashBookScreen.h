@@ -21,7 +21,9 @@ public:
 
     // Lists a day: its cash rows, the carry-over of the days before and the cash position.
     void listDay(QDate day);
-    void print();
+    // Prints the day the list shows; when the date field was visited since, the day typed there
+    // is listed first (and a wrong one is refused with "Hatalı Tarih..").
+    void printDay();
 
 protected:
     void storeRow(int row) override;
@@ -34,6 +36,8 @@ private:
     QWidget *makePositionBox();
     QWidget *makeAccountBox();
     void gridEntered();
+    // Lists the day typed in the date field; false (after "Hatalı Tarih..") when it is none.
+    bool listTypedDay();
     void readCarryOver(QDate day);
     void showPosition();
     void showAccount(const QString &code);
@@ -41,7 +45,9 @@ private:
     void checkValue(int column, const QString &name, const QString &value);
     void listKey(int key, int modifiers, int row);
     void dateKey(int &key, Qt::KeyboardModifiers &modifiers);
+    // The day typed in the date field.
     QDate day() const;
+    void print();
 
     XText *m_date;
     ValueLabel *m_position[3][2] = {}; // "Günlük İşlemler", "Dünden Devir", "Kasa Durumu" × debit, credit
@@ -50,4 +56,5 @@ private:
     ValueLabel *m_accountBalance;
     Currency m_dayDebit, m_dayCredit, m_carryDebit, m_carryCredit;
     bool m_dateChecked = false;
+    QDate m_listedDay; // the day the list shows: rows are stored and printed under it
 };

@@ -55,6 +55,7 @@ private slots:
     void dayIsListedOncePerVisit();
     void rowsCrossBetweenScreens();
     void deleteAsksFirst();
+    void printedDayOnTheDotMatrixPrinter_data();
     void printedDayOnTheDotMatrixPrinter();
     void printedDayAsPdf();
 
@@ -189,6 +190,7 @@ void TestCashBook::typedRowIsStored()
 {
     post(QStringLiteral("k1"), 2, 0, 1000, today.addDays(-10)); // the code in lower case
     enterGrid();
+    date()->setText(QStringLiteral("17.11.2026")); // changed behind the list: the row keeps the listed day
     TypeGridRow(grid(), { "K1" });
     QCOMPARE(label("cariUnvan"), QStringLiteral("Kaya Hukuk"));
     QCOMPARE(label("cariBakiye"), QStringLiteral("1,000.00"));
@@ -307,47 +309,64 @@ void TestCashBook::deleteAsksFirst()
     QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "5" });
 }
 
+void TestCashBook::printedDayOnTheDotMatrixPrinter_data()
+{
+    QTest::addColumn<QString>("typedDay"); // "": F8 in the list; else F8 in the date field after typing it
+    QTest::addColumn<QString>("shownDay");
+    QTest::addColumn<QStringList>("rows"); // code|E|text|in|out
+    QTest::addColumn<QStringList>("totals"); // in and out of the day, carried, the position
+    QTest::newRow("from the list") << QString() << "16.11.2026"
+                                   << QStringList { "K2|E|Emanet iadesi||40.00", "K1||Tahsilat|100.00|" }
+                                   << QStringList { "100.00", "40.00", "300.00", "", "360.00", "" };
+    QTest::newRow("from the date field, as opened")
+        << "16112026"
+        << "16.11.2026" << QStringList { "K2|E|Emanet iadesi||40.00", "K1||Tahsilat|100.00|" }
+        << QStringList { "100.00", "40.00", "300.00", "", "360.00", "" };
+    QTest::newRow("from the date field, another day")
+        << "17112026"
+        << "17.11.2026" << QStringList { "K2|||900.00|" } << QStringList { "900.00", "", "360.00", "", "1,260.00", "" };
+}
+
 void TestCashBook::printedDayOnTheDotMatrixPrinter()
 {
+    QFETCH(QString, typedDay);
+    QFETCH(QString, shownDay);
+    QFETCH(QStringList, rows);
+    QFETCH(QStringList, totals);
     seedDay();
-    enterGrid();
+    if (typedDay.isEmpty())
+        enterGrid();
+    else
+        TypeIntoField(date(), typedDay);
     const QByteArray before = m_spooler->received();
     printSettings().dotMatrix = true;
     AnswerPrinterSetup("Command4", this);
-    QTest::keyClick(grid()->view(), Qt::Key_F8);
+    QTest::keyClick(typedDay.isEmpty() ? static_cast<QWidget *>(grid()->view()) : date()->textBox(), Qt::Key_F8);
 
     ExpectedRawPage page;
     const auto rule
         = [&page] { page.rule(8).gap().rule(1).gap().rule(8).gap().rule(35).gap().rule(11).gap().rule(11).endLine(); };
-    const auto line
-        = [&page](const QString &code, const QString &e, const QString &text, const QString &in, const QString &out) {
-              page.field(code, 8).gap().field(e, 1).gap().field(QString(), 8).gap().field(text, 35).gap();
-              page.field(in, 11, 1).gap().field(out, 11, 1).endLine();
-          };
-    const auto total = [&page](const QString &caption, const QString &in, const QString &out) {
-        page.field(caption, 55).gap().field(in, 11, 1).gap().field(out, 11, 1).endLine();
+    const auto line = [&page](const QStringList &cells) {
+        page.field(cells.value(0), 8).gap().field(cells.value(1), 1).gap().field(QString(), 8).gap();
+        page.field(cells.value(2), 35).gap().field(cells.value(3), 11, 1).gap().field(cells.value(4), 11, 1).endLine();
     };
     page.field(QStringLiteral(" "), 1).endLine();
     page.bold(QStringLiteral("Kasa Defteri"), 80, 2).endLine();
-    page.field(QStringLiteral("Tarih :"), 10, 1).field(QStringLiteral("16.11.2026"), 12).endLine();
+    page.field(QStringLiteral("Tarih :"), 10, 1).field(shownDay, 12).endLine();
     page.field(QStringLiteral(" "), 1).endLine();
-    page.bold(QStringLiteral("Cari"), 8)
-        .gap()
-        .bold(QStringLiteral("E"), 1)
-        .gap()
-        .bold(QStringLiteral("Evrak"), 8)
-        .gap();
-    page.bold(QStringLiteral("Açıklama"), 35).gap().bold(QStringLiteral("Borç"), 11).gap();
+    page.bold(QStringLiteral("Cari"), 8).gap().bold(QStringLiteral("E"), 1).gap().bold(QStringLiteral("Evrak"), 8);
+    page.gap().bold(QStringLiteral("Açıklama"), 35).gap().bold(QStringLiteral("Borç"), 11).gap();
     page.bold(QStringLiteral("Alacak"), 11).endLine();
     rule();
-    line(
-        QStringLiteral("K2"), QStringLiteral("E"), QStringLiteral("Emanet iadesi"), QString(), QStringLiteral("40.00"));
-    line(QStringLiteral("K1"), QString(), QStringLiteral("Tahsilat"), QStringLiteral("100.00"), QString());
-    line(QString(), QString(), QString(), QString(), QString());
+    for (const QString &row : rows)
+        line(row.split(u'|'));
+    line({}); // the empty row for a new entry
     rule();
-    total(QStringLiteral("TOPLAM:"), QStringLiteral("100.00"), QStringLiteral("40.00"));
-    total(QStringLiteral("DEVREDEN:"), QStringLiteral("300.00"), QString());
-    total(QStringLiteral("GENEL TOPLAM:"), QStringLiteral("360.00"), QString());
+    const char *captions[] = { "TOPLAM:", "DEVREDEN:", "GENEL TOPLAM:" };
+    for (int r = 0; r < 3; ++r) {
+        page.field(QString::fromLatin1(captions[r]), 55).gap().field(totals[2 * r], 11, 1).gap();
+        page.field(totals[2 * r + 1], 11, 1).endLine();
+    }
     rule();
     page.endPage(66);
     QTRY_VERIFY_WITH_TIMEOUT(m_spooler->received().size() - before.size() >= page.bytes().size(), 20000);
