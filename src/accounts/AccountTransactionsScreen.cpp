@@ -147,6 +147,7 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
     QApplication::processEvents();
     DcList *grid = list();
     m_listing = true;
+    m_listedCode = code;
     grid->Clear();
     std::unique_ptr<Recordset> rows;
     if (QueryOpen(*dataFiles().db, rows,
@@ -201,8 +202,8 @@ void AccountTransactionsScreen::storeRow(int)
         Message::exclamation(QStringLiteral("Hatalı Tarih Girildi.\nHareket Kaydedilmedi."));
         return;
     }
-    const AccountPosting posting { m_code->Text(), date, typeCode(grid->Text(Islem)), grid->Text(Evrak),
-        grid->Text(Ack), grid->Text(Ba) == u"B" ? 0 : 1, Currency::fromString(grid->Text(Tutar)) };
+    const AccountPosting posting { m_listedCode, date, typeCode(grid->Text(Islem)), grid->Text(Evrak), grid->Text(Ack),
+        grid->Text(Ba) == u"B" ? 0 : 1, Currency::fromString(grid->Text(Tutar)) };
     const qint64 oto = StoreAccountPosting(editedKey(), posting);
     if (oto > 0)
         rowStored(oto);

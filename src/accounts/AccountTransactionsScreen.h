@@ -51,4 +51,5 @@ private:
     };
     std::vector<Sums> m_running;
     bool m_listing = false;
+    QString m_listedCode; // the account the list shows: rows are stored under it
 };
