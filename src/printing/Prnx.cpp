@@ -1,5 +1,6 @@
 #include "printing/Prnx.h"
 
+#include "books/Message.h"
 #include "printing/DosPrint.h"
 #include "printing/GraphicDocument.h"
 #include "printing/PrintSettings.h"
@@ -56,6 +57,11 @@ void Prnx::ClosePrinter()
 {
     if (m_continuous)
         return;
+    if (!m_overflows.isEmpty()) {
+        Message::exclamation(
+            QStringLiteral("Sütunlarına sığmayan sayılar \"#\" ile yazdırıldı:\n") + m_overflows.join(u'\n'));
+        m_overflows.clear();
+    }
     if (m_kind == Graphic) {
         m_document->finish();
         m_document.reset();
@@ -101,8 +107,11 @@ void Prnx::SayfaBitti(bool PageFeed)
 void Prnx::Lprint(
     const QString &text, int en, bool LineFeed, int algn, bool koyu, bool italik, bool altcizgi, bool Ustcizgi)
 {
+    const bool overflows = algn == 1 && en > 0 && text.size() > en;
+    if (overflows && (m_kind == Graphic || m_kind == Raw) && !m_overflows.contains(text))
+        m_overflows << text;
     if (m_kind == Graphic)
-        drawField(text, en, algn, koyu, italik, altcizgi, Ustcizgi);
+        drawField(overflows ? QString(en, u'#') : text, en, algn, koyu, italik, altcizgi, Ustcizgi);
     else if (m_kind == Raw)
         rawOutput(FitField(text, en, algn), LineFeed, koyu, italik, altcizgi);
     advance(LineFeed);

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QFont>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -60,4 +61,5 @@ private:
     int m_lines = 0;
     int m_pages = 0;
     bool m_continuous = false;
+    QStringList m_overflows; // right-aligned texts that did not fit their fields
 };

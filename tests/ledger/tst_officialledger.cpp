@@ -110,6 +110,8 @@ private slots:
     void printedPagesCarryTheirTotals();
     void expensePageAddsOnlyTheVat();
     void printedAsPdf();
+    void numbersWiderThanTheirColumnsAreMarked_data();
+    void numbersWiderThanTheirColumnsAreMarked();
     void holderNameIsNeeded();
     void printerThatDoesNotOpen();
 
@@ -341,6 +343,36 @@ void TestOfficialLedger::printedAsPdf()
     for (const char *expected : { "NakliYekun:", "Kayıt150", "150,000.00", "207,000.00" })
         QVERIFY2(last.contains(QString::fromUtf8(expected)), expected);
     QVERIFY2(pdf.footingFault(QStringLiteral("T O P L A M :")).isEmpty(), qPrintable(pdf.footingFault("TOPLAM:")));
+}
+
+void TestOfficialLedger::numbersWiderThanTheirColumnsAreMarked_data()
+{
+    QTest::addColumn<bool>("dotMatrix");
+    QTest::newRow("dot matrix") << true;
+    QTest::newRow("PDF") << false;
+}
+
+// A withholding of 10,000,000.00 in the 12-wide "Stopaj" column: marks and a message that names
+// it, never "0,000,000.00".
+void TestOfficialLedger::numbersWiderThanTheirColumnsAreMarked()
+{
+    QFETCH(bool, dotMatrix);
+    QVERIFY(AddLedgerRow(0, QDate(2026, 2, 1), { 50000000, 10000000, 0, 0 }));
+    QString printed;
+    if (dotMatrix) {
+        printed = QString::fromLatin1(printRaw());
+    } else {
+        const PdfPrintout pdf(
+            this, [this] { m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click(); });
+        printed = pdf.text(0);
+    }
+    QVERIFY2(printed.contains(QString(12, u'#')), qPrintable(printed));
+    QVERIFY(printed.contains(QStringLiteral("50,000,000.00"))); // the 15-wide columns take theirs
+    QVERIFY(printed.contains(QStringLiteral("60,000,000.00")));
+    printed.remove(QStringLiteral("50,000,000.00")).remove(QStringLiteral("60,000,000.00"));
+    QVERIFY(!printed.contains(QStringLiteral("0,000,000.00")));
+    QCOMPARE(m_kit->messages().texts(),
+        QStringList { QStringLiteral("Sütunlarına sığmayan sayılar \"#\" ile yazdırıldı:\n10,000,000.00") });
 }
 
 void TestOfficialLedger::holderNameIsNeeded()

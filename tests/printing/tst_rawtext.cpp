@@ -25,7 +25,8 @@ void TestRawText::fitting_data()
     QTest::newRow("unknown alignment is left") << "AB" << 4 << 7 << "AB  ";
     QTest::newRow("own width") << "ABC" << 0 << 1 << "ABC";
     QTest::newRow("left cut") << "ABCDEF" << 4 << 0 << "ABCD";
-    QTest::newRow("right cut keeps the end") << "ABCDEF" << 4 << 1 << "CDEF";
+    QTest::newRow("right, too wide: marks, never the last digits") << "10001" << 4 << 1 << "####";
+    QTest::newRow("right, just fits") << "9999" << 4 << 1 << "9999";
     QTest::newRow("centred, one too long") << "ABCDE" << 4 << 2 << "ABCDE";
     QTest::newRow("centred, far too long") << "ABCDEFGH" << 4 << 2 << "ABCDEFGH";
 }
