@@ -33,12 +33,6 @@ ReportColumn &ReportColumn::right()
     return *this;
 }
 
-ReportColumn &ReportColumn::unsummed()
-{
-    summed = false;
-    return *this;
-}
-
 ReportColumn TextColumn(const QString &name, const QString &head, int width, int pixels)
 {
     return column(CellKind::Text, name, head, width, pixels);

@@ -34,8 +34,6 @@ struct ReportColumn
     ReportColumn &listedAs(const QString &text);
     // Right-aligned on paper.
     ReportColumn &right();
-    // Not summed into the page totals.
-    ReportColumn &unsummed();
 };
 
 using ReportColumns = std::vector<ReportColumn>;
