@@ -72,8 +72,6 @@ void LoadParameters()
     set.not3 = GenelTxtGet(QStringLiteral("not3"));
     set.not4 = GenelTxtGet(QStringLiteral("not4"));
     set.unvan = GenelTxtGet(QStringLiteral("unvan"));
-    conventions.currencyWord = QStringLiteral("YTL");
-    conventions.subUnitWord = QStringLiteral("YKR");
 }
 
 bool ParametersSaved()

@@ -3,15 +3,13 @@
 #include <QChar>
 #include <QString>
 
-// How amounts are rounded, shown and spelled: part of the process-wide parameter set,
+// How amounts are rounded and shown: part of the process-wide parameter set,
 // kept here because every amount routine reads it.
 struct AmountConventions
 {
     int tlonda = 2; // decimals of money amounts
     QChar decimalSeparator = u'.';
     QChar thousandsSeparator = u',';
-    QString currencyWord = QStringLiteral("YTL");
-    QString subUnitWord = QStringLiteral("YKR");
 };
 
 AmountConventions &amountConventions();

@@ -72,15 +72,16 @@ QString subUnitDigits(Currency rounded)
 
 } // namespace
 
-QString AmountInWords(Currency amount)
+QString AmountInWords(Currency amount, QDate date)
 {
-    const AmountConventions &conventions = amountConventions();
+    const bool newLira = date.isValid() && date < QDate(2009, 1, 1);
+    const QString currencyWord = newLira ? QStringLiteral("YTL") : QStringLiteral("TL");
+    const QString subUnitWord = newLira ? QStringLiteral("YKR") : QStringLiteral("Kr");
     const qint64 units = amount.wholeUnits();
-    QString result = wholeUnitsInWords(units < 0 ? -units : units) + u' ' + conventions.currencyWord;
+    QString result = wholeUnitsInWords(units < 0 ? -units : units) + u' ' + currencyWord;
 
     const QString digits = subUnitDigits(RoundAmount(amount));
-    if (digits.toInt() != 0) {
-        result += u' ' + tens()[digitAt(digits, 0)] + ones()[digitAt(digits, 1)] + u' ' + conventions.subUnitWord;
-    }
+    if (digits.toInt() != 0)
+        result += u' ' + tens()[digitAt(digits, 0)] + ones()[digitAt(digits, 1)] + u' ' + subUnitWord;
     return result;
 }

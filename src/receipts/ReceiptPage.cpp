@@ -52,7 +52,7 @@ QString itemText(const ReceiptValues &v, const LayoutRow &row, bool *right)
     case 12:
         return FormatAmount(v.total, 3);
     case 13:
-        return row.txt.trimmed() + AmountInWords(v.total);
+        return row.txt.trimmed() + AmountInWords(v.total, QDate::fromString(v.date, u"dd.MM.yyyy"));
     case 14:
         return rate(v.stopajRate);
     case 15:

@@ -59,8 +59,6 @@ void TestParameters::freshBookReadsEmpty()
     QCOMPARE(set.emanet, Currency());
     QCOMPARE(set.not1, QString());
     QCOMPARE(set.unvan, QString());
-    QCOMPARE(amountConventions().currencyWord, QStringLiteral("YTL"));
-    QCOMPARE(amountConventions().subUnitWord, QStringLiteral("YKR"));
 }
 
 void TestParameters::typedRoundTrip()

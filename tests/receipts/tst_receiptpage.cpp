@@ -54,7 +54,7 @@ void TestReceiptPage::placing_data()
     QTest::newRow("column 75, width 10") << LayoutRow { 6, 10, 75, 4, {} } << 4 << QString(74, u' ') + "Açıkla";
     QTest::newRow("tax office and number") << LayoutRow { 5, 20, 1, 5, {} } << 5 << "Çankaya - 123";
     QTest::newRow("total in words") << LayoutRow { 13, 40, 1, 33, QStringLiteral(" Yalnız ") } << 33
-                                    << "Yalnızdokuzyüzaltmış YTL";
+                                    << "Yalnızdokuzyüzaltmış TL";
     QTest::newRow("free text as stored") << LayoutRow { 19, 10, 1, 6, QStringLiteral(" Sayın ") } << 6 << " Sayın";
     QTest::newRow("line 0 is off the page") << LayoutRow { 0, 10, 1, 0, {} } << 0 << "";
     QTest::newRow("line 34 is off the page") << LayoutRow { 0, 10, 1, 34, {} } << 0 << "";

@@ -202,7 +202,7 @@ void TestReceiptScreen::fullReceiptIsPostedAndPrinted()
     put(12, 50, QStringLiteral(" 18"));
     put(12, 60, QStringLiteral("      180.00"));
     put(14, 60, QStringLiteral("60.00"));
-    put(16, 5, QStringLiteral("Yalnızdokuzyüzaltmış YTL"));
+    put(16, 5, QStringLiteral("Yalnızdokuzyüzaltmış TL"));
     put(20, 75, QStringLiteral("Teşekk"));
     QByteArray expected;
     for (const QString &line : page) {
