@@ -13,6 +13,8 @@ private slots:
     void emptyLayoutIsBlank();
     void placing_data();
     void placing();
+    void wordsFollowTheReceiptDate_data();
+    void wordsFollowTheReceiptDate();
     void laterRowsOverwriteEarlierOnes_data();
     void laterRowsOverwriteEarlierOnes();
 
@@ -75,6 +77,37 @@ void TestReceiptPage::placing()
         const QString trimmed = QString(page[i]).remove(QRegularExpression(QStringLiteral(" +$")));
         QCOMPARE(trimmed, i + 1 == line ? text : QString());
     }
+}
+
+void TestReceiptPage::wordsFollowTheReceiptDate_data()
+{
+    QTest::addColumn<QString>("date");
+    QTest::addColumn<QString>("total");
+    QTest::addColumn<QString>("line"); // line 33, right blanks trimmed
+    QTest::newRow("last day of the YTL") << "31.12.2008"
+                                         << "1000.50"
+                                         << "Yalnızbin YTL elli YKR";
+    QTest::newRow("first day of the TL") << "01.01.2009"
+                                         << "1000.50"
+                                         << "Yalnızbin TL elli Kr";
+    QTest::newRow("zero") << "01.01.2009"
+                          << "0"
+                          << "Yalnız TL";
+    QTest::newRow("kuruş alone") << "31.12.2008"
+                                 << "0.05"
+                                 << "Yalnız YTL beş YKR";
+}
+
+void TestReceiptPage::wordsFollowTheReceiptDate()
+{
+    QFETCH(QString, date);
+    QFETCH(QString, total);
+    QFETCH(QString, line);
+    ReceiptValues values = receipt();
+    values.date = date;
+    values.total = Currency::fromString(total);
+    const QStringList page = ComposeReceiptPage(values, { LayoutRow { 13, 60, 1, 33, QStringLiteral(" Yalnız ") } });
+    QCOMPARE(QString(page[32]).remove(QRegularExpression(QStringLiteral(" +$"))), line);
 }
 
 void TestReceiptPage::laterRowsOverwriteEarlierOnes_data()
