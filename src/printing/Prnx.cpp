@@ -107,11 +107,11 @@ void Prnx::SayfaBitti(bool PageFeed)
 void Prnx::Lprint(
     const QString &text, int en, bool LineFeed, int algn, bool koyu, bool italik, bool altcizgi, bool Ustcizgi)
 {
-    const bool overflows = algn == 1 && en > 0 && text.size() > en;
+    const bool overflows = OverflowsField(text, en, algn);
     if (overflows && (m_kind == Graphic || m_kind == Raw) && !m_overflows.contains(text))
         m_overflows << text;
-    if (m_kind == Graphic)
-        drawField(overflows ? QString(en, u'#') : text, en, algn, koyu, italik, altcizgi, Ustcizgi);
+    if (m_kind == Graphic) // the marks as on the dot-matrix line; any other text as it is
+        drawField(overflows ? FitField(text, en, algn) : text, en, algn, koyu, italik, altcizgi, Ustcizgi);
     else if (m_kind == Raw)
         rawOutput(FitField(text, en, algn), LineFeed, koyu, italik, altcizgi);
     advance(LineFeed);

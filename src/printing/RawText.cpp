@@ -55,12 +55,17 @@ QByteArray encoded(const QString &text)
 
 } // namespace
 
+bool OverflowsField(const QString &text, int en, int algn)
+{
+    return algn == 1 && en > 0 && text.size() > en;
+}
+
 QString FitField(const QString &text, int en, int algn)
 {
     if (en < 1)
         return text;
-    if (algn == 1) // a number that does not fit is a row of marks, never its last digits
-        return text.size() > en ? QString(en, u'#') : (QString(en, u' ') + text).right(en);
+    if (algn == 1)
+        return OverflowsField(text, en, algn) ? QString(en, u'#') : (QString(en, u' ') + text).right(en);
     if (algn == 2) {
         const int pad = int(en - text.size()) / 2;
         if (pad < 0)
