@@ -70,20 +70,19 @@ void DebitCreditScreen::listOnScreen()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     ListWindow *window = ShowListWindow(
         m_listWindow, QStringLiteral("Form11"), QStringLiteral("Genel Borç Alacak Listesi"), columns());
-    Account total;
-    total.unv = QStringLiteral("T O P L A M");
-    Currency debitBalances, creditBalances;
+    QVariantList total = { QString(), QStringLiteral("T O P L A M") }; // then the four amounts' sums
+    Currency sums[4];
     for (const Account &account : accounts()) {
         if (!account.listed)
             continue;
-        window->addRow(account.cells());
-        total.debit += account.debit;
-        total.credit += account.credit;
-        debitBalances += account.debitBalance();
-        creditBalances += account.creditBalance();
+        const QVariantList cells = account.cells();
+        window->addRow(cells);
+        for (int c = 0; c < 4; ++c)
+            sums[c] += cells[2 + c].value<Currency>();
     }
-    window->addRow({ QString(), total.unv, QVariant::fromValue(total.debit), QVariant::fromValue(total.credit),
-        QVariant::fromValue(debitBalances), QVariant::fromValue(creditBalances) });
+    for (const Currency &sum : sums)
+        total << QVariant::fromValue(sum);
+    window->addRow(total);
     QApplication::restoreOverrideCursor();
 }
 
