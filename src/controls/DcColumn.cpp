@@ -15,9 +15,11 @@ QString DcColumn::display(const QString &value) const
 {
     switch (kind().unicode()) {
     case u'n':
-    case u'b':
+    case u'b': {
         // An amount that could not be summed shows its mark ("Taşma") as it is.
-        return value == Currency::overflow().toString() ? value : FormatNumber(value, onda, grup);
+        static const QString overflowMark = Currency::overflow().toString();
+        return value == overflowMark ? value : FormatNumber(value, onda, grup);
+    }
     case u't': {
         const QDate date = QDate::fromString(value, QStringLiteral("dd.MM.yyyy"));
         return date.isValid() ? FormatDate(date) : value;

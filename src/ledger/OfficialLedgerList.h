@@ -24,8 +24,8 @@ public:
     void showBook(int side, bool withholding, bool fund);
     // A numbered row (number 0 and no date: the row that carries in the sums before the range).
     void addRow(int sira, QDate date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts);
-    // Prints the rows found (all of them, also beyond a full list) with the print engine kind (Prnx::Graphic or
-    // Prnx::Raw).
+    // Prints the rows found (all of them, also beyond a full list) with the print engine kind
+    // (Prnx::Graphic or Prnx::Raw).
     void yazdir(int kind, int side);
 
 private:
