@@ -90,6 +90,36 @@ const std::vector<TableShape> &schema()
     return tables;
 }
 
+// The program's own table beside the five: what a receipt keeps that they have no column for (the
+// VAT its payer withheld; the identity of a document brought in from the portal). One row per
+// receipt, keyed by its ledger row's oto.
+const QStringList &ownTables()
+{
+    static const QStringList sql = {
+        QStringLiteral(
+            "CREATE TABLE \"makbuz\" (\"defter\" INTEGER PRIMARY KEY, \"carhar\" INTEGER, "
+            "\"tevkoran\" INTEGER, \"tevkifat\" CURRENCY CHECK(typeof(\"tevkifat\") IN ('integer', 'null')), "
+            "\"tevkkod\" TEXT, \"makbuzno\" TEXT, \"ettn\" TEXT, \"vkn\" TEXT, \"dosya\" TEXT)"),
+        QStringLiteral("CREATE UNIQUE INDEX \"makbuz_ettn\" ON \"makbuz\" (\"ettn\")"),
+    };
+    return sql;
+}
+
+// Books made before the program's own table get it, empty, when they open: no row changes.
+bool addOwnTables(Database &db)
+{
+    if (!db.texts(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name = 'makbuz'")).isEmpty())
+        return true;
+    if (!db.run(QStringLiteral("BEGIN IMMEDIATE")))
+        return false;
+    for (const QString &step : ownTables())
+        if (!db.run(step)) {
+            db.run(QStringLiteral("ROLLBACK"));
+            return false;
+        }
+    return db.run(QStringLiteral("COMMIT"));
+}
+
 QString &programFolder()
 {
     static QString folder;
@@ -235,6 +265,10 @@ bool buildSchema(const QString &path)
     for (const TableShape &table : schema())
         if (!createTable(*db, table))
             return false;
+    if (!addOwnTables(*db)) {
+        reportNoFile();
+        return false;
+    }
     return true;
 }
 
@@ -307,7 +341,7 @@ DataFileState openChecked(DataFiles &files)
         && RsOpen(*files.db, files.duzen, QStringLiteral("duzen"));
     if (!open)
         return DataFileState::Failed;
-    if (!addMissingIndexes(*files.db))
+    if (!addMissingIndexes(*files.db) || !addOwnTables(*files.db))
         return stateOf(sqlite3_errcode(files.db->handle()) & 0xff);
     return DataFileState::Open;
 }

@@ -2,6 +2,7 @@
 
 #include "books/AccessLayer.h"
 #include "books/DataFiles.h"
+#include "books/Statement.h"
 #include "money/RoundAmount.h"
 
 namespace {
@@ -79,6 +80,17 @@ qint64 AddAccountPosting(const AccountPosting &posting)
 qint64 AddLedgerPosting(const LedgerPosting &posting)
 {
     return add(*dataFiles().defter, posting);
+}
+
+bool AddReceiptRecord(qint64 ledgerOto, qint64 accountOto, const ReceiptRecord &r)
+{
+    const auto text = [](const QString &value) { return value.isEmpty() ? QVariant() : QVariant(value); };
+    Statement insert(dataFiles().db->handle(),
+        QStringLiteral("INSERT INTO makbuz (defter, carhar, tevkoran, tevkifat, tevkkod, makbuzno, ettn, vkn, dosya) "
+                       "VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)"));
+    return insert.bindAll({ ledgerOto, accountOto, r.tevkoran, RoundAmount(r.tevkifat).raw(), text(r.tevkkod),
+               text(r.makbuzno), text(r.ettn), text(r.vkn), text(r.dosya) })
+        && insert.execute();
 }
 
 bool ChangeAccountPosting(qint64 oto, const AccountPosting &posting)

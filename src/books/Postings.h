@@ -35,9 +35,25 @@ struct LedgerPosting
     Currency kdv;
 };
 
+// What a receipt keeps beyond its two postings, in the program's own table `makbuz`, one row per
+// receipt's ledger row: the VAT its payer withheld and, for a document brought in from the
+// portal, its full number, identity (ETTN), issuer's tax number and the file it came from.
+struct ReceiptRecord
+{
+    int tevkoran = 0; // the withheld share of the VAT, in percent
+    Currency tevkifat; // the withheld VAT
+    QString tevkkod;
+    QString makbuzno;
+    QString ettn;
+    QString vkn;
+    QString dosya;
+};
+
 // Each answers the new row's oto, or 0 when the row could not be stored.
 qint64 AddAccountPosting(const AccountPosting &posting);
 qint64 AddLedgerPosting(const LedgerPosting &posting);
+// The receipt's record beside its ledger row (ledgerOto) and account row (accountOto).
+bool AddReceiptRecord(qint64 ledgerOto, qint64 accountOto, const ReceiptRecord &record);
 // False when no row has this oto or the engine refused the change.
 bool ChangeAccountPosting(qint64 oto, const AccountPosting &posting);
 bool ChangeLedgerPosting(qint64 oto, const LedgerPosting &posting);

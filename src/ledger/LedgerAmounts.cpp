@@ -6,5 +6,6 @@ LedgerAmounts &LedgerAmounts::operator+=(const LedgerAmounts &other)
     stopaj += other.stopaj;
     fon += other.fon;
     kdv += other.kdv;
+    tevkifat += other.tevkifat;
     return *this;
 }

@@ -27,29 +27,30 @@ MonthlyReportScreen::MonthlyReportScreen(QWidget *parent)
     const auto amount = [](const char *name, const char16_t *caption) {
         return AmountColumn(QString::fromLatin1(name), QString::fromUtf16(caption), 0, 110);
     };
-    setColumns({ TextColumn(QStringLiteral("donem"), QStringLiteral("Dönem"), 0, 80),
-        amount("indmatrah", u"İnd.Matrah"), amount("indkdv", u"İnd.KDV"), amount("hesmatrah", u"Hes.Matrah"),
-        amount("heskdv", u"Hes.KDV"), amount("stopaj", u"Stopaj"), amount("fon", u"Fon") });
+    setColumns(
+        { TextColumn(QStringLiteral("donem"), QStringLiteral("Dönem"), 0, 80), amount("indmatrah", u"İnd.Matrah"),
+            amount("indkdv", u"İnd.KDV"), amount("hesmatrah", u"Hes.Matrah"), amount("heskdv", u"Hes.KDV"),
+            amount("tevkkdv", u"Tevk.KDV"), amount("stopaj", u"Stopaj"), amount("fon", u"Fon") });
     DcList *grid = list();
     grid->setScroll(0);
     const int rowHeight = grid->view()->verticalHeader()->defaultSectionSize();
-    grid->setMinimumSize(80 + 6 * 110 + 4, (totalRow + 2) * rowHeight + 8);
+    grid->setMinimumSize(80 + Fon * 110 + 4, (totalRow + 2) * rowHeight + 8);
     compute();
 }
 
 // The year's rows summed by month in the engine: income rows (islem 0) feed the computed base,
-// VAT, withholding and fund; every other row the deductible base and VAT. Rows without a date
-// have no month and stay out.
+// VAT, withheld VAT, withholding and fund; every other row the deductible base and VAT. Rows
+// without a date have no month and stay out.
 void MonthlyReportScreen::compute()
 {
     const int year = Today().year();
-    std::array<std::array<Currency, 7>, 12> month {};
+    std::array<std::array<Currency, Fon + 1>, 12> month {};
     std::unique_ptr<Recordset> rows;
     if (QueryOpen(*dataFiles().db, rows,
-            QStringLiteral(
-                "SELECT month(tarih) AS ay, islem = 0 AS gelir, amountsum(brut) AS brut, amountsum(stopaj) AS stopaj, "
-                "amountsum(fon) AS fon, amountsum(kdv) AS kdv FROM defter WHERE tarih >= ?1 AND tarih <= ?2 "
-                "GROUP BY ay, gelir"),
+            QStringLiteral("SELECT month(d.tarih) AS ay, d.islem = 0 AS gelir, amountsum(d.brut) AS brut, "
+                           "amountsum(d.stopaj) AS stopaj, amountsum(d.fon) AS fon, amountsum(d.kdv) AS kdv, "
+                           "amountsum(m.tevkifat) AS tevkifat FROM defter d LEFT JOIN makbuz m ON m.defter = d.oto "
+                           "WHERE d.tarih >= ?1 AND d.tarih <= ?2 GROUP BY ay, gelir"),
             { DayNumber(QDate(year, 1, 1)), DayNumber(QDate(year, 12, 31)) })) {
         do {
             const int m = FieldRead(*rows, QStringLiteral("ay")).toInt() - 1;
@@ -58,6 +59,7 @@ void MonthlyReportScreen::compute()
             if (FieldRead(*rows, QStringLiteral("gelir")).toInt() != 0) {
                 month[size_t(m)][HesMatrah] += AmountSumRead(*rows, QStringLiteral("brut"));
                 month[size_t(m)][HesKdv] += AmountSumRead(*rows, QStringLiteral("kdv"));
+                month[size_t(m)][TevkKdv] += AmountSumRead(*rows, QStringLiteral("tevkifat"));
                 month[size_t(m)][Stopaj] += AmountSumRead(*rows, QStringLiteral("stopaj"));
                 month[size_t(m)][Fon] += AmountSumRead(*rows, QStringLiteral("fon"));
             } else {
@@ -67,7 +69,7 @@ void MonthlyReportScreen::compute()
         } while (RsNext(*rows));
     }
     list()->Clear();
-    std::array<Currency, 7> total {};
+    std::array<Currency, Fon + 1> total {};
     for (int m = 0; m < 12; ++m) {
         QVariantList cells = { QString::fromUtf16(months[m]) };
         for (int c = IndMatrah; c <= Fon; ++c) {

@@ -14,25 +14,28 @@ OfficialLedgerList::OfficialLedgerList(QWidget *parent)
 {
 }
 
-void OfficialLedgerList::showBook(int side, bool withholding, bool fund)
+void OfficialLedgerList::showBook(int side, bool withholding, bool fund, bool withheldVat)
 {
     m_side = side;
+    m_withheldVat = withheldVat;
     setWindowTitle(side == Gelir ? QStringLiteral("Serbest Meslek Defteri (Gelir)")
                                  : QStringLiteral("Serbest Meslek Defteri (Gider)"));
     list()->setAccessibleName(windowTitle());
     list()->view()->setAccessibleName(windowTitle());
     m_rows.clear();
-    setColumns(columns(side, withholding, fund));
+    setColumns(columns(side, withholding, fund, withheldVat));
 }
 
-ReportColumns OfficialLedgerList::columns(int side, bool withholding, bool fund)
+ReportColumns OfficialLedgerList::columns(int side, bool withholding, bool fund, bool withheldVat)
 {
     const bool income = side == Gelir;
+    // The withheld VAT's column and its gap are taken from the text, so the page keeps its width.
+    const bool withheld = income && withheldVat;
     const int amountPixels = income ? 110 : 120;
     return { NumberColumn(QStringLiteral("sira"), QStringLiteral("Sıra"), 4, 50),
         DateColumn(QStringLiteral("tarih"), QStringLiteral("Tarih"), 12, 90),
         TextColumn(QStringLiteral("evrak"), QStringLiteral("Evrak"), 10, 80),
-        TextColumn(QStringLiteral("ack"), QStringLiteral("Açıklama"), 42, income ? 150 : 250),
+        TextColumn(QStringLiteral("ack"), QStringLiteral("Açıklama"), withheld ? 29 : 42, income ? 150 : 250),
         AmountColumn(
             QStringLiteral("matrah"), income ? QStringLiteral("Gelir") : QStringLiteral("Gider"), 15, amountPixels)
             .listedAs(QStringLiteral("Matrah")),
@@ -42,6 +45,8 @@ ReportColumns OfficialLedgerList::columns(int side, bool withholding, bool fund)
         AmountColumn(
             QStringLiteral("kdv"), income ? QStringLiteral("Hes.Kdv.") : QStringLiteral("İnd.Kdv."), 12, amountPixels)
             .listedAs(QStringLiteral("Kdv")),
+        AmountColumn(QStringLiteral("tevkifat"), QStringLiteral("Tevk.Kdv."), withheld ? 12 : 0, withheld ? 110 : 0)
+            .listedAs(QStringLiteral("Tevk.Kdv")),
         AmountColumn(QStringLiteral("toplam"), QStringLiteral("Toplam"), 15, 0) };
 }
 
@@ -51,7 +56,7 @@ void OfficialLedgerList::addRow(
     const Currency total = amounts.brut + amounts.kdv + (m_side == Gelir ? amounts.stopaj : Currency());
     QVariantList cells = { sira, date.isValid() ? QVariant(date) : QVariant(QString()), evrak, ack,
         QVariant::fromValue(amounts.brut), QVariant::fromValue(amounts.stopaj), QVariant::fromValue(amounts.fon),
-        QVariant::fromValue(amounts.kdv), QVariant::fromValue(total) };
+        QVariant::fromValue(amounts.kdv), QVariant::fromValue(amounts.tevkifat), QVariant::fromValue(total) };
     ListWindow::addRow(cells); // the printout takes every row, also those beyond a full list
     m_rows.push_back(std::move(cells));
 }
@@ -64,7 +69,7 @@ void OfficialLedgerList::yazdir(int kind, int side)
     }
     const bool income = side == Gelir;
     ReportLayout layout;
-    layout.columns = columns(side, true, false);
+    layout.columns = columns(side, true, false, m_withheldVat);
     layout.pageTop = [this, income](Prnx &printer) { pageTop(printer, income); };
     layout.boldHeads = false;
     layout.carryCaption = QStringLiteral("Nakli Yekun :");

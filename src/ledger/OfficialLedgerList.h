@@ -20,8 +20,9 @@ public:
     explicit OfficialLedgerList(QWidget *parent = nullptr);
 
     // Empties the list for a side's book; withholding and fund: whether an income list shows
-    // those columns.
-    void showBook(int side, bool withholding, bool fund);
+    // those columns; withheldVat: whether the book has VAT withheld by payers (its column is
+    // then listed and printed).
+    void showBook(int side, bool withholding, bool fund, bool withheldVat);
     // A numbered row (number 0 and no date: the row that carries in the sums before the range).
     void addRow(int sira, QDate date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts);
     // Prints the rows found (all of them, also beyond a full list) with the print engine kind
@@ -29,11 +30,12 @@ public:
     void yazdir(int kind, int side);
 
 private:
-    // Number, date, document, text, base, withholding, fund, VAT and the printed total; the
-    // side decides the heads, the boxes which of withholding and fund are listed.
-    static ReportColumns columns(int side, bool withholding, bool fund);
+    // Number, date, document, text, base, withholding, fund, VAT, withheld VAT and the printed
+    // total; the side decides the heads, the boxes which of withholding and fund are listed.
+    static ReportColumns columns(int side, bool withholding, bool fund, bool withheldVat);
     void pageTop(class Prnx &prnx, bool income) const;
 
     int m_side = Gelir;
+    bool m_withheldVat = false;
     std::vector<QVariantList> m_rows; // the rows found, as typed cells
 };

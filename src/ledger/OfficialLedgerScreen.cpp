@@ -29,7 +29,18 @@ LedgerAmounts amountsOf(const Recordset &row)
     return { FieldRead(row, QStringLiteral("brut")).value<Currency>(),
         FieldRead(row, QStringLiteral("stopaj")).value<Currency>(),
         FieldRead(row, QStringLiteral("fon")).value<Currency>(),
-        FieldRead(row, QStringLiteral("kdv")).value<Currency>() };
+        FieldRead(row, QStringLiteral("kdv")).value<Currency>(),
+        FieldRead(row, QStringLiteral("tevkifat")).value<Currency>() };
+}
+
+// Whether any row of the side between the two days has VAT withheld by its payer.
+bool hasWithheldVat(Database &db, int side, qint64 from, qint64 to)
+{
+    std::unique_ptr<Recordset> found;
+    return QueryOpen(db, found,
+        QStringLiteral("SELECT 1 AS n FROM makbuz m JOIN defter d ON d.oto = m.defter "
+                       "WHERE m.tevkifat <> 0 AND d.islem = ?1 AND d.tarih >= ?2 AND d.tarih <= ?3 LIMIT 1"),
+        { side, from, to });
 }
 
 } // namespace
@@ -127,15 +138,17 @@ void OfficialLedgerScreen::fill(int kind)
         m_listScreen = new OfficialLedgerList;
         m_listScreen->setAttribute(Qt::WA_DeleteOnClose);
     }
-    m_listScreen->showBook(side, m_withholding->isChecked(), m_fund->isChecked());
+    m_listScreen->showBook(side, m_withholding->isChecked(), m_fund->isChecked(),
+        hasWithheldVat(db, side, DayNumber(QDate(year, 1, 1)), to));
     OpenInMain(m_listScreen);
     const qint64 firstNo = m_fields[FirstNo]->Value().toLongLong();
     const qint64 lastNo = m_fields[LastNo]->Value().toLongLong();
     LedgerAmounts carried;
     bool listed = false;
     if (QueryOpen(db, rows,
-            QStringLiteral("SELECT tarih, evrak, ack, brut, stopaj, fon, kdv FROM defter "
-                           "WHERE islem = ?1 AND tarih >= ?2 AND tarih <= ?3 ORDER BY tarih, oto"),
+            QStringLiteral("SELECT d.tarih, d.evrak, d.ack, d.brut, d.stopaj, d.fon, d.kdv, m.tevkifat "
+                           "FROM defter d LEFT JOIN makbuz m ON m.defter = d.oto "
+                           "WHERE d.islem = ?1 AND d.tarih >= ?2 AND d.tarih <= ?3 ORDER BY d.tarih, d.oto"),
             { side, from, to })) {
         for (; !RsEof(*rows) && ++counter <= lastNo; RsNext(*rows)) {
             const LedgerAmounts amounts = amountsOf(*rows);

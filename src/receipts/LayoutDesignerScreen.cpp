@@ -26,7 +26,7 @@ Recordset &duzen()
 QString entryText(int sira, int no, const QString &txt)
 {
     const QString number = QStringLiteral("%1").arg(sira, 4, 10, QLatin1Char('0'));
-    if (no >= 0 && no <= 18)
+    if (no >= 0 && no < ReceiptItemNames().size() && no != FreeTextItem)
         return number + QStringLiteral(" - ") + ReceiptItemNames().value(no) + QStringLiteral(" - ") + txt;
     return number + QStringLiteral(" - ") + txt;
 }

@@ -21,3 +21,13 @@ ReceiptAmounts FromNet(Currency net, const ReceiptRates &rates, bool withhold, b
     amounts.net = net;
     return amounts;
 }
+
+Currency WithheldVat(Currency kdv, int percent)
+{
+    return PercentOf(kdv, float(percent));
+}
+
+Currency PayableTotal(Currency net, Currency kdv, Currency withheld)
+{
+    return net + kdv - withheld;
+}

@@ -26,3 +26,7 @@ ReceiptAmounts FromGross(Currency gross, const ReceiptRates &rates, bool withhol
 // and not rounded; the net keeps the typed value.
 ReceiptAmounts FromNet(Currency net, const ReceiptRates &rates, bool withhold, bool levy);
 
+// The VAT the payer withholds and pays to the tax office: a share of the VAT in percent, rounded.
+Currency WithheldVat(Currency kdv, int percent);
+// What the payer pays on the receipt: the net fee and the VAT less the VAT the payer withholds.
+Currency PayableTotal(Currency net, Currency kdv, Currency withheld);

@@ -67,6 +67,11 @@ XText *ReceiptFormScreen::addAmountField(const QString &label, int grup)
     return amount;
 }
 
+XText *ReceiptFormScreen::addNumberField(const QString &label, double limit)
+{
+    return addField(label, XText::NumberFormat, limit);
+}
+
 void ReceiptFormScreen::finishLayout(const std::vector<XText *> &focusOrder)
 {
     QPushButton *saveButton
@@ -147,12 +152,14 @@ bool ReceiptFormScreen::postable() const
     return true;
 }
 
-void ReceiptFormScreen::postToAccount(int islem, int ba, Currency amount)
+qint64 ReceiptFormScreen::postToAccount(int islem, int ba, Currency amount)
 {
     const AccountPosting posting { field(Code)->Text(), receiptDate(), islem, field(Number)->Text(),
         field(Description)->Text(), ba, amount };
-    if (AddAccountPosting(posting) > 0)
+    const qint64 oto = AddAccountPosting(posting);
+    if (oto > 0)
         ShrinkEffect(true);
     else
         Message::exclamation(QStringLiteral("Kayıt Cari Hareketlere Kaydedilemedi.."));
+    return oto;
 }

@@ -29,6 +29,8 @@ protected:
 
     // Appends a number field of the screen's own after the shared ones.
     XText *addAmountField(const QString &label, int grup);
+    // Appends a whole-number field of the screen's own, up to `limit`.
+    XText *addNumberField(const QString &label, double limit);
     // Puts the buttons under the fields and the fields into the focus chain; call last.
     void finishLayout(const std::vector<XText *> &focusOrder);
     XText *field(int index) const { return m_fields[size_t(index)]; }
@@ -45,7 +47,8 @@ protected:
     bool postable() const;
     // The receipt's row in the account's transactions: code, date, number and description from
     // the fields; a failure is shown, not returned.
-    void postToAccount(int islem, int ba, Currency amount);
+    // Answers the row's oto (0 when it was not stored).
+    qint64 postToAccount(int islem, int ba, Currency amount);
 
 private:
     XText *addField(const QString &label, int format, double limit);

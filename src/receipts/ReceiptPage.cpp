@@ -23,7 +23,7 @@ QString rate(float value)
 // The item's text and whether it is right-aligned.
 QString itemText(const ReceiptValues &v, const LayoutRow &row, bool *right)
 {
-    *right = (row.no >= 7 && row.no <= 12) || (row.no >= 14 && row.no <= 16);
+    *right = (row.no >= 7 && row.no <= 12) || (row.no >= 14 && row.no <= 16) || row.no == 20 || row.no == 21;
     switch (row.no) {
     case 0:
         return v.title;
@@ -63,6 +63,10 @@ QString itemText(const ReceiptValues &v, const LayoutRow &row, bool *right)
         return v.number;
     case 18:
         return v.date;
+    case 20:
+        return FormatAmount(v.withheld, 3);
+    case 21:
+        return v.withheldTenths != 0 ? QStringLiteral("%1/10").arg(v.withheldTenths) : QString();
     default:
         return row.txt;
     }
@@ -77,7 +81,8 @@ const QStringList &ReceiptItemNames()
         QStringLiteral("Açıklama"), QStringLiteral("Brüt Ücret"), QStringLiteral("Stopaj"), QStringLiteral("Fon"),
         QStringLiteral("Net Ücret"), QStringLiteral("Kdv"), QStringLiteral("Toplam"), QStringLiteral("Yazi ile Toplam"),
         QStringLiteral("Stopaj Oran"), QStringLiteral("Fon Oran"), QStringLiteral("Kdv Oran"),
-        QStringLiteral("Makbuz No"), QStringLiteral("Tarih"), QStringLiteral("Serbest Açıklama") };
+        QStringLiteral("Makbuz No"), QStringLiteral("Tarih"), QStringLiteral("Serbest Açıklama"),
+        QStringLiteral("Tevkifat"), QStringLiteral("Tevkifat Oran") };
     return names;
 }
 
@@ -90,8 +95,8 @@ QStringList ComposeReceiptPage(const ReceiptValues &values, const std::vector<La
         const int line = position(row.ust);
         const int column = position(row.sol);
         const int width = position(row.uzun);
-        if (line < 1 || line > ReceiptLines || row.no < 0 || row.no > 19 || column < 1 || column > ReceiptColumns
-            || width < 0)
+        if (line < 1 || line > ReceiptLines || row.no < 0 || row.no >= ReceiptItemNames().size() || column < 1
+            || column > ReceiptColumns || width < 0)
             continue;
         bool right = false;
         const QString text = itemText(values, row, &right);

@@ -18,6 +18,8 @@ struct ReceiptValues
     QString description; // field 8
     Currency gross, stopaj, fon, net, kdv, total;
     float stopajRate = 0, fonRate = 0, kdvRate = 0;
+    Currency withheld; // the VAT the payer withholds
+    int withheldTenths = 0; // its share of the VAT in tenths, 0: none
 };
 
 // One row of the receipt layout (table duzen): item `no` at line `ust`, column `sol`, `uzun`
@@ -31,8 +33,11 @@ struct LayoutRow
     QString txt;
 };
 
-// The names of the twenty items, by item number, as the layout designer shows them.
+// The names of the items, by item number, as the layout designer shows them: the twenty of the
+// paper receipt, then the withheld VAT and its share ("5/10").
 const QStringList &ReceiptItemNames();
+// "Serbest Açıklama": the row's own text as stored.
+constexpr int FreeTextItem = 19;
 
 constexpr int ReceiptLines = 33;
 constexpr int ReceiptColumns = 80;

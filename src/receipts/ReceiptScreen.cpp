@@ -44,6 +44,8 @@ ReceiptScreen::ReceiptScreen(QWidget *parent)
     addAmountField(QStringLiteral("Fon"), 3);
     addAmountField(QStringLiteral("Net Ücret"), 3);
     addAmountField(QStringLiteral("K.D.V."), 3);
+    addNumberField(QStringLiteral("Tevkifat"), 10);
+    addAmountField(QStringLiteral("Tevkifat Tutarı"), 3);
     for (int computed : { Stopaj, Fon }) {
         field(computed)->setLocked(true);
         field(computed)->setFocusPolicy(Qt::NoFocus);
@@ -54,6 +56,7 @@ ReceiptScreen::ReceiptScreen(QWidget *parent)
     grid()->addWidget(new QLabel(rateText(set.stopaj), this), Stopaj, 2);
     grid()->addWidget(new QLabel(rateText(set.fon), this), Fon, 2);
     grid()->addWidget(new QLabel(rateText(set.kdv), this), Kdv, 2);
+    grid()->addWidget(new QLabel(QStringLiteral("/ 10"), this), Tenths, 2);
     grid()->addWidget(m_withhold, Stopaj, 3);
     grid()->addWidget(m_levy, Fon, 3);
 
@@ -65,24 +68,28 @@ ReceiptScreen::ReceiptScreen(QWidget *parent)
     m_totalLabel->setFont(bold);
     m_totalLabel->setObjectName(QStringLiteral("toplam"));
     m_totalLabel->showAsAmount(150);
-    grid()->addWidget(totalCaption, Kdv + 1, 0);
-    grid()->addWidget(m_totalLabel, Kdv + 1, 1, Qt::AlignLeft);
+    grid()->addWidget(totalCaption, Withheld + 1, 0);
+    grid()->addWidget(m_totalLabel, Withheld + 1, 1, Qt::AlignLeft);
 
     connect(field(Gross), &XText::Change, this, &ReceiptScreen::grossChanged);
     connect(field(Net), &XText::Change, this, &ReceiptScreen::netChanged);
-    connect(field(Kdv), &XText::Change, this, &ReceiptScreen::updateTotal);
+    connect(field(Kdv), &XText::Change, this, &ReceiptScreen::vatChanged);
+    connect(field(Tenths), &XText::Change, this, &ReceiptScreen::vatChanged);
+    connect(field(Withheld), &XText::Change, this, &ReceiptScreen::updateTotal);
     connect(m_withhold, &QCheckBox::clicked, this, &ReceiptScreen::grossChanged);
     connect(m_levy, &QCheckBox::clicked, this, &ReceiptScreen::grossChanged);
 
     reset();
     finishLayout({ field(Number), field(Date), field(Code), field(Title), field(Address1), field(Address2),
-        field(TaxOffice), field(TaxNumber), field(Description), field(Gross), field(Net), field(Kdv) });
+        field(TaxOffice), field(TaxNumber), field(Description), field(Gross), field(Net), field(Kdv), field(Tenths),
+        field(Withheld) });
 }
 
 void ReceiptScreen::reset()
 {
     m_calculating = true;
     resetFields(parameters().serino);
+    field(Tenths)->setOnda(0);
     field(Description)->setText(GenelTxtGet(QStringLiteral("lastack")));
     m_total = Currency();
     m_totalLabel->setValue(QString());
@@ -116,6 +123,17 @@ void ReceiptScreen::showAmounts(Currency gross, Currency stopaj, Currency fon, C
     field(Fon)->setValue(QVariant::fromValue(fon));
     field(Kdv)->setValue(QVariant::fromValue(kdv));
     m_calculating = false;
+    vatChanged();
+}
+
+void ReceiptScreen::vatChanged()
+{
+    if (m_calculating)
+        return;
+    m_calculating = true;
+    field(Withheld)->setValue(
+        QVariant::fromValue(WithheldVat(field(Kdv)->amount(), field(Tenths)->Value().toInt() * 10)));
+    m_calculating = false;
     updateTotal();
 }
 
@@ -123,7 +141,7 @@ void ReceiptScreen::updateTotal()
 {
     if (m_calculating)
         return;
-    m_total = field(Net)->amount() + field(Kdv)->amount();
+    m_total = PayableTotal(field(Net)->amount(), field(Kdv)->amount(), field(Withheld)->amount());
     m_totalLabel->setValue(FormatAmount(m_total, 3));
 }
 
@@ -152,7 +170,7 @@ void ReceiptScreen::save()
 
 void ReceiptScreen::post()
 {
-    postToAccount(2, 0, m_total);
+    const qint64 account = postToAccount(2, 0, m_total);
 
     LedgerPosting row;
     row.tarih = receiptDate();
@@ -164,10 +182,17 @@ void ReceiptScreen::post()
     row.stopaj = field(Stopaj)->amount();
     row.fon = field(Fon)->amount();
     row.kdv = field(Kdv)->amount();
-    if (AddLedgerPosting(row) > 0)
-        ShrinkEffect(true);
-    else
+    const qint64 ledger = AddLedgerPosting(row);
+    if (ledger <= 0) {
         Message::exclamation(QStringLiteral("Kayıt Defter Hareketlere Kaydedilemedi.."));
+        return;
+    }
+    ShrinkEffect(true);
+    ReceiptRecord record;
+    record.tevkoran = field(Tenths)->Value().toInt() * 10;
+    record.tevkifat = field(Withheld)->amount();
+    if ((record.tevkoran != 0 || record.tevkifat != Currency()) && !AddReceiptRecord(ledger, account, record))
+        Message::exclamation(QStringLiteral("Tevkifat Bilgisi Kaydedilemedi.."));
 }
 
 void ReceiptScreen::print()
@@ -193,6 +218,8 @@ void ReceiptScreen::print()
     values.fon = field(Fon)->amount();
     values.net = field(Net)->amount();
     values.kdv = field(Kdv)->amount();
+    values.withheld = field(Withheld)->amount();
+    values.withheldTenths = field(Tenths)->Value().toInt();
     values.total = m_total;
     const ParameterSet &set = parameters();
     values.stopajRate = set.stopaj;

@@ -23,12 +23,15 @@ protected:
     void accountFilled() override;
 
 private:
-    enum Own { Gross = FirstOwn, Stopaj, Fon, Net, Kdv };
+    // Tenths: the share of the VAT the payer withholds, in tenths (0 or empty: none); Withheld:
+    // that VAT, computed from it and overwritable.
+    enum Own { Gross = FirstOwn, Stopaj, Fon, Net, Kdv, Tenths, Withheld };
 
     void reset();
     void grossChanged();
     void netChanged();
     void showAmounts(Currency gross, Currency stopaj, Currency fon, Currency net, Currency kdv, bool keepNet);
+    void vatChanged();
     void updateTotal();
     void post();
 

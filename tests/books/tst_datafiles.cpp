@@ -79,7 +79,7 @@ private slots:
     void schema_data();
     void schema();
     void secondStartOpensTheSameFile();
-    void olderFileGetsItsLookupIndex();
+    void olderFileGetsItsIndexesAndOwnTable();
     void fileThatIsNotOursIsLeftAlone_data();
     void fileThatIsNotOursIsLeftAlone();
     void killsDuringTheFirstStartNeverBlockTheNext();
@@ -165,6 +165,11 @@ void TestDataFiles::schema_data()
                            << QStringList { "sira INTEGER", "no SMALLINT", "uzun FLOAT", "sol FLOAT", "ust FLOAT",
                                   "txt TEXT(40)" }
                            << QStringList {};
+    QTest::newRow("makbuz, the program's own")
+        << "makbuz"
+        << QStringList { "defter INTEGER", "carhar INTEGER", "tevkoran INTEGER", "tevkifat CURRENCY", "tevkkod TEXT",
+               "makbuzno TEXT", "ettn TEXT", "vkn TEXT", "dosya TEXT" }
+        << QStringList { "makbuz_ettn 1" };
 }
 
 void TestDataFiles::schema()
@@ -182,7 +187,7 @@ void TestDataFiles::schema()
     QCOMPARE(indexes, expectedIndexes);
 }
 
-void TestDataFiles::olderFileGetsItsLookupIndex()
+void TestDataFiles::olderFileGetsItsIndexesAndOwnTable()
 {
     SetProgramFolder(m_dir->path());
     QVERIFY(CreateDataFiles());
@@ -191,7 +196,9 @@ void TestDataFiles::olderFileGetsItsLookupIndex()
         *dataFiles().db, QStringLiteral("INSERT INTO carhar (kod, islem, ba, tutar) VALUES ('K1', 1, 0, 5)")));
     for (const char *index : { "carhar_islemtarih", "carhar_kodbakiye" }) // as a file made before them
         QVERIFY(SqlExecute(*dataFiles().db, QStringLiteral("DROP INDEX ") + QString::fromLatin1(index)));
+    QVERIFY(SqlExecute(*dataFiles().db, QStringLiteral("DROP TABLE makbuz")));
     QVERIFY(OpenDataFiles());
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT count(*) AS n FROM makbuz"), QStringLiteral("n")), QStringList { "0" });
     const QString indexes = QStringLiteral("SELECT name FROM pragma_index_list('carhar') ORDER BY name");
     QCOMPARE(QueryTexts(indexes, QStringLiteral("name")),
         QStringList({ "carhar_islemtarih", "carhar_kodbakiye", "carhar_kodtarih" }));
@@ -597,7 +604,7 @@ void TestDataFiles::booksOfTheOwnCollationAreMadePlain()
         QCOMPARE(shell(first, declared), QStringList { "5" }); // the first copy: the books as they were
         QCOMPARE(shell(dataFile(), QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' ORDER BY name")),
             QStringList({ "carhar_islemtarih", "carhar_kodbakiye", "carhar_kodtarih", "carkart_kod", "defter_islemcari",
-                "defter_tarihislem", "genel_kod" }));
+                "defter_tarihislem", "genel_kod", "makbuz_ettn" }));
     } else {
         QCOMPARE(contents(dataFile()), before);
     }

@@ -18,9 +18,10 @@
 
 namespace {
 
-void book(int islem, QDate date, qint64 brut, qint64 stopaj, qint64 fon, qint64 kdv, const QString &cari = QString())
+void book(int islem, QDate date, qint64 brut, qint64 stopaj, qint64 fon, qint64 kdv, const QString &cari = QString(),
+    qint64 withheld = 0)
 {
-    QVERIFY(AddLedgerRow(islem, date, { brut, stopaj, fon, kdv }, cari));
+    QVERIFY(AddLedgerRow(islem, date, { brut, stopaj, fon, kdv, withheld }, cari));
 }
 
 QStringList storedRows()
@@ -45,6 +46,7 @@ private slots:
     void expenseBook();
     void receiptRowKeepsItsAccount();
     void deleteAsksFirst();
+    void monthlyReport_data();
     void monthlyReport();
 
 private:
@@ -222,11 +224,21 @@ void TestLedger::deleteAsksFirst()
     QCOMPARE(label(1), QString());
 }
 
+void TestLedger::monthlyReport_data()
+{
+    QTest::addColumn<qint64>("withheld"); // by the payer of the March receipt
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("nothing withheld") << qint64(0) << QString();
+    QTest::newRow("9/10 of the VAT withheld") << qint64(162) << QStringLiteral("162.00");
+}
+
 void TestLedger::monthlyReport()
 {
+    QFETCH(qint64, withheld);
+    QFETCH(QString, shown);
     book(0, QDate(2026, 12, 31), 1000, 200, 10, 180); // the year's ends
     book(1, QDate(2026, 1, 1), 500, 0, 0, 90);
-    book(0, QDate(2026, 3, 15), 1000, 200, 10, 180);
+    book(0, QDate(2026, 3, 15), 1000, 200, 10, 180, QString(), withheld);
     book(1, QDate(2026, 3, 20), 500, 0, 0, 90);
     book(2, QDate(2026, 11, 1), 100, 0, 0, 18); // any other side counts as an expense
     book(0, QDate(2025, 3, 15), 7777, 0, 0, 0); // another year
@@ -238,17 +250,17 @@ void TestLedger::monthlyReport()
     QCOMPARE(list->ListCount(), 14);
     const auto row = [list](int r) {
         QStringList texts;
-        for (int c = 0; c < 7; ++c)
+        for (int c = 0; c < 8; ++c)
             texts << list->view()->model()->index(r, c).data().toString();
         return texts;
     };
-    QCOMPARE(row(0), QStringList({ "Ocak", "500.00", "90.00", "", "", "", "" }));
-    QCOMPARE(row(1), QStringList({ "Şubat", "", "", "", "", "", "" }));
-    QCOMPARE(row(2), QStringList({ "Mart", "500.00", "90.00", "1,000.00", "180.00", "200.00", "10.00" }));
-    QCOMPARE(row(10), QStringList({ "Kasım", "100.00", "18.00", "", "", "", "" }));
-    QCOMPARE(row(11), QStringList({ "Aralık", "", "", "1,000.00", "180.00", "200.00", "10.00" }));
-    QCOMPARE(row(12), QStringList({ "", "", "", "", "", "", "" }));
-    QCOMPARE(row(13), QStringList({ "TOPLAM", "1,100.00", "198.00", "2,000.00", "360.00", "400.00", "20.00" }));
+    QCOMPARE(row(0), QStringList({ "Ocak", "500.00", "90.00", "", "", "", "", "" }));
+    QCOMPARE(row(1), QStringList({ "Şubat", "", "", "", "", "", "", "" }));
+    QCOMPARE(row(2), QStringList({ "Mart", "500.00", "90.00", "1,000.00", "180.00", shown, "200.00", "10.00" }));
+    QCOMPARE(row(10), QStringList({ "Kasım", "100.00", "18.00", "", "", "", "", "" }));
+    QCOMPARE(row(11), QStringList({ "Aralık", "", "", "1,000.00", "180.00", "", "200.00", "10.00" }));
+    QCOMPARE(row(12), QStringList({ "", "", "", "", "", "", "", "" }));
+    QCOMPARE(row(13), QStringList({ "TOPLAM", "1,100.00", "198.00", "2,000.00", "360.00", shown, "400.00", "20.00" }));
     QPointer<MonthlyReportScreen> open = report;
     QTest::keyClick(list->view(), Qt::Key_Escape);
     QTRY_VERIFY(open.isNull()); // Esc closes the report

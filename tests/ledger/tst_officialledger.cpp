@@ -108,7 +108,8 @@ private slots:
     void columnsFollowTheSideAndTheSwitches();
     void printedPagesCarryTheirTotals_data();
     void printedPagesCarryTheirTotals();
-    void expensePageAddsOnlyTheVat();
+    void onePageBooks_data();
+    void onePageBooks();
     void printedAsPdf();
     void numbersWiderThanTheirColumnsAreMarked_data();
     void numbersWiderThanTheirColumnsAreMarked();
@@ -218,12 +219,15 @@ void TestOfficialLedger::columnsFollowTheSideAndTheSwitches_data()
     QTest::addColumn<int>("side");
     QTest::addColumn<bool>("withholding");
     QTest::addColumn<bool>("fund");
+    QTest::addColumn<qint64>("withheld"); // VAT withheld by the payer
     QTest::addColumn<QStringList>("columns");
     const QStringList fixed = { "sira", "tarih", "evrak", "ack", "matrah" };
-    QTest::newRow("gelir") << 0 << false << false << fixed + QStringList { "kdv" };
-    QTest::newRow("gelir, stopaj") << 0 << true << false << fixed + QStringList { "stopaj", "kdv" };
-    QTest::newRow("gelir, both") << 0 << true << true << fixed + QStringList { "stopaj", "fon", "kdv" };
-    QTest::newRow("gider ignores both") << 1 << true << true << fixed + QStringList { "kdv" };
+    QTest::newRow("gelir") << 0 << false << false << qint64(0) << fixed + QStringList { "kdv" };
+    QTest::newRow("gelir, stopaj") << 0 << true << false << qint64(0) << fixed + QStringList { "stopaj", "kdv" };
+    QTest::newRow("gelir, both") << 0 << true << true << qint64(0) << fixed + QStringList { "stopaj", "fon", "kdv" };
+    QTest::newRow("gelir, VAT withheld") << 0 << false << false << qint64(45)
+                                         << fixed + QStringList { "kdv", "tevkifat" };
+    QTest::newRow("gider ignores both") << 1 << true << true << qint64(0) << fixed + QStringList { "kdv" };
 }
 
 void TestOfficialLedger::columnsFollowTheSideAndTheSwitches()
@@ -231,8 +235,9 @@ void TestOfficialLedger::columnsFollowTheSideAndTheSwitches()
     QFETCH(int, side);
     QFETCH(bool, withholding);
     QFETCH(bool, fund);
+    QFETCH(qint64, withheld);
     QFETCH(QStringList, columns);
-    QVERIFY(AddLedgerRow(side, QDate(2026, 12, 31), { 500, 100, 5, 90 })); // the year's last day
+    QVERIFY(AddLedgerRow(side, QDate(2026, 12, 31), { 500, 100, 5, 90, withheld })); // the year's last day
     m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(side);
     m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->setChecked(withholding);
     m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->setChecked(fund);
@@ -283,47 +288,69 @@ void TestOfficialLedger::printedPagesCarryTheirTotals()
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 
-void TestOfficialLedger::expensePageAddsOnlyTheVat()
+void TestOfficialLedger::onePageBooks_data()
 {
-    QVERIFY(AddLedgerRow(
-        1, QDate(2026, 3, 2), { 500, 0, 0, 90 }, QString(), QStringLiteral("F7"), QStringLiteral("Kırtasiye")));
-    m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(1);
+    QTest::addColumn<int>("side");
+    QTest::addColumn<qint64>("withheld");
+    QTest::addColumn<QStringList>("heads"); // the amount columns' heads, each with its width
+    QTest::addColumn<QStringList>("amounts"); // the row's and the totals' amounts under them
+    QTest::newRow("gider: the VAT only") << 1 << qint64(0) << QStringList { "Gider:15", "İnd.Kdv.:12", "Toplam:15" }
+                                         << QStringList { "500.00", "90.00", "590.00" };
+    // The withheld VAT's column takes 13 of the text's 42 columns: the page keeps its width.
+    QTest::newRow("gelir with VAT withheld by the payer")
+        << 0 << qint64(81) << QStringList { "Gelir:15", "Stopaj:12", "Hes.Kdv.:12", "Tevk.Kdv.:12", "Toplam:15" }
+        << QStringList { "500.00", "100.00", "90.00", "81.00", "690.00" };
+}
+
+void TestOfficialLedger::onePageBooks()
+{
+    QFETCH(int, side);
+    QFETCH(qint64, withheld);
+    QFETCH(QStringList, heads);
+    QFETCH(QStringList, amounts);
+    QVERIFY(AddLedgerRow(side, QDate(2026, 3, 2), { 500, side == 0 ? 100 : 0, 0, 90, withheld }, QString(),
+        QStringLiteral("F7"), QStringLiteral("Kırtasiye")));
+    m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(side);
     printSettings().dotMatrix = true;
     AnswerPrinterSetup("Command4", this);
     const QByteArray printed = m_spooler->receive([this] { m_screen->print(); });
+    const int text = withheld != 0 ? 29 : 42;
+    QList<int> widths;
+    for (const QString &head : std::as_const(heads))
+        widths << head.section(u':', 1).toInt();
     ExpectedRawPage page;
-    const auto rule = [&page] {
-        page.rule(4)
-            .gap()
-            .rule(12)
-            .gap()
-            .rule(10)
-            .gap()
-            .rule(42)
-            .gap()
-            .rule(15)
-            .gap()
-            .rule(12)
-            .gap()
-            .rule(15)
-            .endLine();
+    const auto amountLine = [&page, &widths](const QStringList &texts, bool bold) {
+        for (int c = 0; c < widths.size(); ++c) {
+            page.field(texts[c], widths[c], 1, bold);
+            c + 1 < widths.size() ? page.gap() : page.endLine();
+        }
+    };
+    const auto rule = [&] {
+        page.rule(4).gap().rule(12).gap().rule(10).gap().rule(text);
+        for (int width : std::as_const(widths))
+            page.gap().rule(width);
+        page.endLine();
     };
     page.raw(QByteArray("\x0f", 1)).field(QStringLiteral(" "), 1).endLine();
-    page.bold(QStringLiteral("SERBEST MESLEK DEFTERİ (GIDER)"), 115, 2).endLine();
+    page.bold(side == 0 ? QStringLiteral("SERBEST MESLEK DEFTERİ (GELIR)")
+                        : QStringLiteral("SERBEST MESLEK DEFTERİ (GIDER)"),
+            115, 2)
+        .endLine();
     page.field(QStringLiteral("Ünvan :"), 7, 1).field(QStringLiteral("Av. Deniz Kaya"), 43);
     page.field(QStringLiteral(" "), 1).endLine().field(QStringLiteral(" "), 1).endLine();
     page.field(QStringLiteral("Sıra"), 4).gap().field(QStringLiteral("Tarih"), 12).gap();
-    page.field(QStringLiteral("Evrak"), 10).gap().field(QStringLiteral("Açıklama"), 42).gap();
-    page.field(QStringLiteral("Gider"), 15).gap().field(QStringLiteral("İnd.Kdv."), 12).gap();
-    page.field(QStringLiteral("Toplam"), 15).endLine();
+    page.field(QStringLiteral("Evrak"), 10).gap().field(QStringLiteral("Açıklama"), text).gap();
+    for (int c = 0; c < heads.size(); ++c) {
+        page.field(heads[c].section(u':', 0, 0), widths[c]);
+        c + 1 < heads.size() ? page.gap() : page.endLine();
+    }
     rule();
     page.field(QStringLiteral("1"), 4, 1).gap().field(QStringLiteral("02.03.2026"), 12).gap();
-    page.field(QStringLiteral("F7"), 10).gap().field(QStringLiteral("Kırtasiye"), 42).gap();
-    page.field(QStringLiteral("500.00"), 15, 1).gap().field(QStringLiteral("90.00"), 12, 1).gap();
-    page.field(QStringLiteral("590.00"), 15, 1).endLine();
+    page.field(QStringLiteral("F7"), 10).gap().field(QStringLiteral("Kırtasiye"), text).gap();
+    amountLine(amounts, false);
     rule();
-    page.bold(QStringLiteral("T O P L A M :"), 71, 1).gap().bold(QStringLiteral("500.00"), 15, 1).gap();
-    page.bold(QStringLiteral("90.00"), 12, 1).gap().bold(QStringLiteral("590.00"), 15, 1).endLine();
+    page.bold(QStringLiteral("T O P L A M :"), 4 + 12 + 10 + text + 3, 1).gap();
+    amountLine(amounts, true);
     page.endPage(linesPerPage);
     const QString difference = FirstDifference(printed, page.bytes());
     QVERIFY2(difference.isEmpty(), qPrintable(difference));

@@ -73,19 +73,20 @@ void TestLayoutDesigner::addRow(
 void TestLayoutDesigner::newRowTakesTheNextNumber()
 {
     QCOMPARE(m_screen->windowTitle(), QStringLiteral("Serbest Meslek Makbuz Dizaynı"));
-    QCOMPARE(m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->count(), 20);
+    QCOMPARE(m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->count(), 22);
     field(0)->setFocus();
     typeKeys(field(0)->textBox(), QStringLiteral("7"));
     addRow(0, QStringLiteral("30"), QStringLiteral("5"), QStringLiteral("2"), QStringLiteral("isim"));
     addRow(19, QStringLiteral("10"), QStringLiteral("75"), QStringLiteral("0"), QStringLiteral("Teşekkürler"));
-    QCOMPARE(entries(), QStringList({ "0001 - Ünvan - isim", "0002 - Teşekkürler" }));
+    addRow(21, QStringLiteral("4"), QStringLiteral("60"), QStringLiteral("9"), QString());
+    QCOMPARE(entries(), QStringList({ "0001 - Ünvan - isim", "0002 - Teşekkürler", "0003 - Tevkifat Oran - " }));
     QCOMPARE(QueryTexts(
                  QStringLiteral("SELECT sira || '|' || no || '|' || uzun || '|' || sol || '|' || ust AS r FROM duzen"),
                  QStringLiteral("r")),
-        QStringList({ "1|0|30.0|5.0|2.0", "2|19|10.0|75.0|0.0" }));
+        QStringList({ "1|0|30.0|5.0|2.0", "2|19|10.0|75.0|0.0", "3|21|4.0|60.0|9.0" }));
     QCOMPARE(field(0)->Value().toInt(), 0);
     const std::vector<LayoutRow> rows = ReadLayout();
-    QCOMPARE(rows.size(), size_t(2));
+    QCOMPARE(rows.size(), size_t(3));
     QCOMPARE(rows[1].txt, QStringLiteral("Teşekkürler"));
 }
 

@@ -39,6 +39,20 @@ void addLayoutRow(int no, float uzun, float sol, float ust, const QString &txt =
     RsUpdate(duzen);
 }
 
+// The bytes of a receipt page of 33 blank lines with texts put at (line, column).
+QByteArray receiptBytes(const std::vector<std::tuple<int, int, QString>> &texts)
+{
+    QStringList page;
+    for (int i = 0; i < 33; ++i)
+        page << QString(80, u' ');
+    for (const auto &[line, column, text] : texts)
+        page[line - 1].replace(column - 1, text.size(), text);
+    QByteArray bytes;
+    for (const QString &line : std::as_const(page))
+        bytes += RawField(line, false, false, false) + "\r\n";
+    return bytes;
+}
+
 } // namespace
 
 class TestReceiptScreen : public QObject
@@ -54,6 +68,8 @@ private slots:
     void netFeeFillsTheGrossBack_data();
     void netFeeFillsTheGrossBack();
     void overwrittenKdvChangesTheTotal();
+    void vatWithheldByThePayer_data();
+    void vatWithheldByThePayer();
     void netFirstReceiptStoresTheShownGross();
     void amountBeyondTheMoneyTypeIsRefused();
     void screenKeysWorkFromACheckBox_data();
@@ -179,36 +195,12 @@ void TestReceiptScreen::fullReceiptIsPostedAndPrinted()
     AnswerPrinterSetup("Command4", this);
     QTest::keyClick(field(8)->textBox(), Qt::Key_F5);
 
-    QStringList page;
-    for (int i = 0; i < 33; ++i)
-        page << QString(80, u' ');
-    const auto put
-        = [&page](int line, int column, const QString &text) { page[line - 1].replace(column - 1, text.size(), text); };
-    put(1, 70, QStringLiteral("500     "));
-    put(2, 5, QStringLiteral("Müşteri A.Ş."));
-    put(2, 70, QStringLiteral("16.11.2026"));
-    put(3, 5, QStringLiteral("Kızılay"));
-    put(4, 5, QStringLiteral("Ankara"));
-    put(5, 5, QStringLiteral("Çankaya"));
-    put(5, 25, QStringLiteral("1234567890"));
-    put(6, 40, QStringLiteral("Çankaya - 1234567890"));
-    put(8, 5, QStringLiteral("Danışmanlık"));
-    put(8, 60, QStringLiteral("1,000.00"));
-    put(9, 50, QStringLiteral(" 20"));
-    put(9, 60, QStringLiteral("      200.00"));
-    put(10, 50, QStringLiteral(" 10"));
-    put(10, 60, QStringLiteral("       20.00"));
-    put(11, 60, QStringLiteral("      780.00"));
-    put(12, 50, QStringLiteral(" 18"));
-    put(12, 60, QStringLiteral("      180.00"));
-    put(14, 60, QStringLiteral("60.00"));
-    put(16, 5, QStringLiteral("Yalnızdokuzyüzaltmış TL"));
-    put(20, 75, QStringLiteral("Teşekk"));
-    QByteArray expected;
-    for (const QString &line : page) {
-        QCOMPARE(line.size(), 80);
-        expected += RawField(line, false, false, false) + "\r\n";
-    }
+    const QByteArray expected = receiptBytes({ { 1, 70, "500     " }, { 2, 5, "Müşteri A.Ş." }, { 2, 70, "16.11.2026" },
+        { 3, 5, "Kızılay" }, { 4, 5, "Ankara" }, { 5, 5, "Çankaya" }, { 5, 25, "1234567890" },
+        { 6, 40, "Çankaya - 1234567890" }, { 8, 5, "Danışmanlık" }, { 8, 60, "1,000.00" }, { 9, 50, " 20" },
+        { 9, 60, "      200.00" }, { 10, 50, " 10" }, { 10, 60, "       20.00" }, { 11, 60, "      780.00" },
+        { 12, 50, " 18" }, { 12, 60, "      180.00" }, { 14, 60, "60.00" }, { 16, 5, "Yalnızdokuzyüzaltmış TL" },
+        { 20, 75, "Teşekk" } });
     QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()), expected, 20000);
     QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("S.M. Makbuzu")));
 
@@ -299,6 +291,99 @@ void TestReceiptScreen::overwrittenKdvChangesTheTotal()
         QStringList { "11000000" });
     QCOMPARE(QueryTexts(QStringLiteral("SELECT kdv || '' AS r FROM defter"), QStringLiteral("r")),
         QStringList { "1000000" });
+}
+
+void TestReceiptScreen::vatWithheldByThePayer_data()
+{
+    QTest::addColumn<float>("kdvRate");
+    QTest::addColumn<QString>("tenths"); // typed into "Tevkifat"
+    QTest::addColumn<QString>("overwritten"); // typed over the computed withheld VAT
+    QTest::addColumn<QString>("withheld"); // shown and printed
+    QTest::addColumn<QString>("total");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("kept"); // the receipt's own record: share in percent | withheld VAT
+    // A gross of 1,000.00 with 20 % withheld: net 800.00.
+    QTest::newRow("nothing withheld") << 18.f << ""
+                                      << ""
+                                      << ""
+                                      << "980.00"
+                                      << "dokuzyüzseksen TL"
+                                      << "";
+    QTest::newRow("5/10") << 18.f << "5"
+                          << ""
+                          << "90.00"
+                          << "890.00"
+                          << "sekizyüzdoksan TL"
+                          << "50|900000";
+    QTest::newRow("9/10") << 18.f << "9"
+                          << ""
+                          << "162.00"
+                          << "818.00"
+                          << "sekizyüzonsekiz TL"
+                          << "90|1620000";
+    QTest::newRow("9/10 overwritten") << 18.f << "9"
+                                      << "150"
+                                      << "150.00"
+                                      << "830.00"
+                                      << "sekizyüzotuz TL"
+                                      << "90|1500000";
+    QTest::newRow("today's rates: the payer pays the gross") << 20.f << ""
+                                                             << ""
+                                                             << ""
+                                                             << "1,000.00"
+                                                             << "bin TL"
+                                                             << "";
+}
+
+// The payer keeps tenths of the VAT and pays them to the tax office: the receipt shows them and
+// the total less them, the account is owed that total, the ledger keeps the whole VAT and the
+// withheld part is kept beside it.
+void TestReceiptScreen::vatWithheldByThePayer()
+{
+    QFETCH(float, kdvRate);
+    QFETCH(QString, tenths);
+    QFETCH(QString, overwritten);
+    QFETCH(QString, withheld);
+    QFETCH(QString, total);
+    QFETCH(QString, words);
+    QFETCH(QString, kept);
+    addLayoutRow(11, 12, 1, 1); // the VAT
+    addLayoutRow(20, 12, 1, 2); // the withheld VAT
+    addLayoutRow(21, 5, 20, 2); // its share
+    addLayoutRow(12, 12, 1, 3); // the total
+    addLayoutRow(13, 40, 1, 4); // the total in words
+    parameters().kdv = kdvRate;
+    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->setChecked(true);
+    chooseAccount();
+    if (!tenths.isEmpty())
+        typeInto(14, tenths);
+    if (!overwritten.isEmpty())
+        typeInto(15, overwritten);
+    QCOMPARE(field(15)->Text(), withheld);
+    QCOMPARE(totalText(), total);
+
+    const QByteArray before = m_spooler->received();
+    AnswerPrinterSetup("Command4", this);
+    QTest::keyClick(field(15)->textBox(), Qt::Key_F5);
+    const QString vat = kdvRate == 20.f ? QStringLiteral("200.00") : QStringLiteral("180.00");
+    const QString share = tenths.isEmpty() ? QString() : tenths + QStringLiteral("/10");
+    const QByteArray expected = receiptBytes({ { 1, 1, vat.rightJustified(12) }, { 2, 1, withheld.rightJustified(12) },
+        { 2, 20, share.rightJustified(5) }, { 3, 1, total.rightJustified(12) }, { 4, 1, words } });
+    QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()), expected, 20000);
+
+    const qint64 owed = (Currency::fromString(QString(total).remove(u',')).raw());
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || '' AS r FROM carhar"), QStringLiteral("r")),
+        QStringList { QString::number(owed) });
+    QCOMPARE(
+        QueryTexts(QStringLiteral("SELECT brut || '|' || stopaj || '|' || kdv AS r FROM defter"), QStringLiteral("r")),
+        QStringList { QStringLiteral("10000000|2000000|") + QString::number(qint64(kdvRate) * 100000) });
+    QCOMPARE(QueryTexts(
+                 QStringLiteral("SELECT tevkoran || '|' || tevkifat AS r FROM makbuz "
+                                "JOIN defter ON defter.oto = makbuz.defter JOIN carhar ON carhar.oto = makbuz.carhar"),
+                 QStringLiteral("r")),
+        kept.isEmpty() ? QStringList() : QStringList { kept });
+    QCOMPARE(field(14)->Text(), QString()); // the next receipt starts without withholding
+    QVERIFY(m_kit->messages().entries().isEmpty());
 }
 
 // 780 net with withholding and levy is a gross of 1,114.2857…: the ledger keeps the 1,114.29 that

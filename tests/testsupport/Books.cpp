@@ -24,10 +24,13 @@ bool AddTransaction(const QString &code, int islem, int ba, Currency amount, QDa
 bool AddLedgerRow(int islem, QDate date, const LedgerAmountsInUnits &amounts, const QString &cari, const QString &evrak,
     const QString &ack)
 {
-    return AddLedgerPosting({ 0, date, islem, evrak, cari, ack, Currency::fromUnits(amounts.brut),
-               Currency::fromUnits(amounts.stopaj), Currency::fromUnits(amounts.fon),
-               Currency::fromUnits(amounts.kdv) })
-        > 0;
+    const qint64 oto = AddLedgerPosting({ 0, date, islem, evrak, cari, ack, Currency::fromUnits(amounts.brut),
+        Currency::fromUnits(amounts.stopaj), Currency::fromUnits(amounts.fon), Currency::fromUnits(amounts.kdv) });
+    if (oto <= 0 || amounts.tevkifat == 0)
+        return oto > 0;
+    ReceiptRecord withheld;
+    withheld.tevkifat = Currency::fromUnits(amounts.tevkifat);
+    return AddReceiptRecord(oto, 0, withheld);
 }
 
 bool RefuseWrites(const QString &table, const QString &operation)
