@@ -12,6 +12,7 @@
 #include "ledger/OfficialLedgerScreen.h"
 #include "ledger/WithholdingListScreen.h"
 #include "receipts/DepositScreen.h"
+#include "receipts/EsmmImportScreen.h"
 #include "receipts/LayoutDesignerScreen.h"
 #include "receipts/ReceiptScreen.h"
 
@@ -24,6 +25,7 @@ void AddProgramScreens(MainWindow &window)
     window.addScreen(QStringLiteral("mnukasa"), [] { return new CashBookScreen; });
     window.addScreen(QStringLiteral("mnumkb"), [] { return new ReceiptScreen; });
     window.addScreen(QStringLiteral("mnuemanet"), [] { return new DepositScreen; });
+    window.addScreen(QStringLiteral("mnuesmm"), [] { return new EsmmImportScreen; });
     window.addScreen(QStringLiteral("mnudiz"), [] { return new LayoutDesignerScreen; });
     window.addScreen(QStringLiteral("mnusdef"), [] { return new LedgerScreen; });
     window.addScreen(QStringLiteral("mnukdv"), [] { return new MonthlyReportScreen; });

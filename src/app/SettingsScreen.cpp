@@ -19,7 +19,7 @@ struct FieldLayout
     int decimals;
 };
 
-const std::array<FieldLayout, 11> fieldLayout = { {
+const std::array<FieldLayout, 12> fieldLayout = { {
     { u"Stopaj Oran %", XText::NumberFormat, 99, 2 },
     { u"Fon Oran %", XText::NumberFormat, 99, 2 },
     { u"K.D.V. Oran %", XText::NumberFormat, 99, 2 },
@@ -31,6 +31,7 @@ const std::array<FieldLayout, 11> fieldLayout = { {
     { u"Not 3 İsim", XText::TextFormat, 10, 0 },
     { u"Not 4 İsim", XText::TextFormat, 10, 0 },
     { u"Ünvan", XText::TextFormat, 40, 0 },
+    { u"Vergi No", XText::TextFormat, 11, 0 },
 } };
 
 } // namespace
@@ -72,7 +73,7 @@ SettingsScreen::SettingsScreen(QWidget *parent)
 
     fill();
     setFocusChain({ m_fields[0], m_fields[1], m_fields[2], m_fields[3], m_fields[4], m_fields[5], m_fields[6],
-        m_fields[7], m_fields[8], m_fields[9], m_fields[10], saveButton, cancelButton });
+        m_fields[7], m_fields[8], m_fields[9], m_fields[10], m_fields[11], saveButton, cancelButton });
 }
 
 // A book whose settings were never saved is offered today's usual values; they are stored only
@@ -92,6 +93,7 @@ void SettingsScreen::fill()
     m_fields[8]->setText(set.not3);
     m_fields[9]->setText(set.not4);
     m_fields[10]->setText(set.unvan);
+    m_fields[11]->setText(set.vergino);
 }
 
 void SettingsScreen::save()
@@ -108,6 +110,7 @@ void SettingsScreen::save()
     set.not3 = m_fields[8]->Text();
     set.not4 = m_fields[9]->Text();
     set.unvan = m_fields[10]->Text();
+    set.vergino = m_fields[11]->Text().trimmed();
 
     GenelSingSet(QStringLiteral("stopaj"), set.stopaj);
     GenelSingSet(QStringLiteral("fon"), set.fon);
@@ -120,5 +123,6 @@ void SettingsScreen::save()
     GenelTxtSet(QStringLiteral("not3"), set.not3);
     GenelTxtSet(QStringLiteral("not4"), set.not4);
     GenelTxtSet(QStringLiteral("unvan"), set.unvan);
+    GenelTxtSet(QStringLiteral("vergino"), set.vergino);
     closeScreen();
 }

@@ -19,5 +19,5 @@ public:
 private:
     void fill();
 
-    std::array<XText *, 11> m_fields {};
+    std::array<XText *, 12> m_fields {};
 };

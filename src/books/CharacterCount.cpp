@@ -8,3 +8,11 @@ int CharacterCount(const QString &text)
             ++count;
     return count;
 }
+
+QString FirstCharacters(const QString &text, int count)
+{
+    qsizetype end = 0;
+    for (int taken = 0; end < text.size() && taken < count; ++taken)
+        end += text[end].isHighSurrogate() && end + 1 < text.size() && text[end + 1].isLowSurrogate() ? 2 : 1;
+    return text.left(end);
+}

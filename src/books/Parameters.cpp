@@ -72,6 +72,7 @@ void LoadParameters()
     set.not3 = GenelTxtGet(QStringLiteral("not3"));
     set.not4 = GenelTxtGet(QStringLiteral("not4"));
     set.unvan = GenelTxtGet(QStringLiteral("unvan"));
+    set.vergino = GenelTxtGet(QStringLiteral("vergino"));
 }
 
 bool ParametersSaved()

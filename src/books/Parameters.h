@@ -16,6 +16,7 @@ struct ParameterSet
     Currency emanet; // last deposit receipt number
     QString not1, not2, not3, not4; // names of the account cards' note fields
     QString unvan; // the holder's name
+    QString vergino; // the holder's tax number; e-SMMs of other issuers are held back
 };
 
 ParameterSet &parameters();

@@ -9,9 +9,9 @@
 #include "controls/ValueLabel.h"
 #include "controls/XText.h"
 #include "money/FormatAmount.h"
+#include "money/ReceiptCalculation.h"
 #include "printing/PrintPreset.h"
 #include "printing/Prnx.h"
-#include "receipts/ReceiptCalculation.h"
 #include "receipts/ReceiptPage.h"
 
 #include <QCheckBox>

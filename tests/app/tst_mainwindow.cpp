@@ -38,13 +38,14 @@ void TestMainWindow::menuIsExactlyTheProgramsMenu()
             menu << QStringLiteral("  ") + item->objectName() + u' '
                     + (item->isSeparator() ? QStringLiteral("-") : item->text());
     }
-    const QStringList expected = { "mnucari &Cari", "  mnucarkart Cari &Kartlar", "  mnubos1 -",
-        "  mnucarhar Cari &Hareketler", "  mnubos2 -", "  mnucareks Cari Hareket Dökümü", "  mnubos71 -",
-        "  mnugbor Genel &Borç Alacak Listesi", "mnuislem &Işlemler", "  mnukasa Kasa", "  mnubos7 -",
-        "  mnumkb Serbest Meslek &Makbuzu", "  mnubos4 -", "  mnuemanet &Emanet Makbuzu", "mnudefter &Defter",
-        "  mnusdef Serbest Meslek Defteri", "  mnubos6 -", "  mnukdv Kdv, Stopaj Raporu", "  mnubos10 -",
-        "  mnustoplst Stopaj Listesi", "  mnubos8 -", "  mnuresmi Resmi Defter Çekimi", "mnuayar Ayar",
-        "  mnuayarlar Ayarlar", "  mnubos9 -", "  mnudiz Makbuz Dizayn" };
+    const QStringList expected
+        = { "mnucari &Cari", "  mnucarkart Cari &Kartlar", "  mnubos1 -", "  mnucarhar Cari &Hareketler", "  mnubos2 -",
+              "  mnucareks Cari Hareket Dökümü", "  mnubos71 -", "  mnugbor Genel &Borç Alacak Listesi",
+              "mnuislem &Işlemler", "  mnukasa Kasa", "  mnubos7 -", "  mnumkb Serbest Meslek &Makbuzu", "  mnubos4 -",
+              "  mnuemanet &Emanet Makbuzu", "  mnubos11 -", "  mnuesmm e-SMM &Aktar", "mnudefter &Defter",
+              "  mnusdef Serbest Meslek Defteri", "  mnubos6 -", "  mnukdv Kdv, Stopaj Raporu", "  mnubos10 -",
+              "  mnustoplst Stopaj Listesi", "  mnubos8 -", "  mnuresmi Resmi Defter Çekimi", "mnuayar Ayar",
+              "  mnuayarlar Ayarlar", "  mnubos9 -", "  mnudiz Makbuz Dizayn" };
     QCOMPARE(menu, expected);
 }
 

@@ -93,7 +93,7 @@ void TestSettingsScreen::opensFromTheMenu()
 void TestSettingsScreen::labelsNameTheFields()
 {
     const QStringList labels = { "Stopaj Oran %", "Fon Oran %", "K.D.V. Oran %", "TL Onda", "Makbuz Seri No",
-        "Emanet Seri No", "Not 1 İsim", "Not 2 İsim", "Not 3 İsim", "Not 4 İsim", "Ünvan" };
+        "Emanet Seri No", "Not 1 İsim", "Not 2 İsim", "Not 3 İsim", "Not 4 İsim", "Ünvan", "Vergi No" };
     for (int i = 0; i < labels.size(); ++i) {
         QCOMPARE(field(i)->accessibleName(), labels[i]);
         QCOMPARE(field(i)->textBox()->accessibleName(), labels[i]);
@@ -130,6 +130,7 @@ void TestSettingsScreen::saveStoresEveryParameterOnce()
     typeInto(5, QStringLiteral("7"));
     typeInto(6, QStringLiteral("Telefon"));
     typeInto(10, QStringLiteral("Av. Şule Işık"));
+    typeInto(11, QStringLiteral("1111111111"));
     press("kaydet");
     QTRY_VERIFY(!m_screen);
 
@@ -142,8 +143,9 @@ void TestSettingsScreen::saveStoresEveryParameterOnce()
     QCOMPARE(GenelCurrenGet(QStringLiteral("emanet")), Currency::fromUnits(7));
     QCOMPARE(GenelTxtGet(QStringLiteral("not1")), QStringLiteral("Telefon"));
     QCOMPARE(GenelTxtGet(QStringLiteral("unvan")), QStringLiteral("Av. Şule Işık"));
+    QCOMPARE(set.vergino, QStringLiteral("1111111111"));
     const QStringList keys
-        = { "emanet", "fon", "kdv", "not1", "not2", "not3", "not4", "serino", "stopaj", "tlonda", "unvan" };
+        = { "emanet", "fon", "kdv", "not1", "not2", "not3", "not4", "serino", "stopaj", "tlonda", "unvan", "vergino" };
     QCOMPARE(genelRows(), keys);
 
     m_fixture->window().menuItem(QStringLiteral("mnuayarlar"))->trigger();

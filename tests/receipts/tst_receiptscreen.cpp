@@ -2,14 +2,17 @@
 #include "books/Clock.h"
 #include "books/DataFiles.h"
 #include "books/Parameters.h"
+#include "controls/DcList.h"
 #include "controls/XText.h"
 #include "money/AmountConventions.h"
 #include "printing/PrintSettings.h"
 #include "printing/PrinterSetupDialog.h"
 #include "printing/RawText.h"
 #include "receipts/DepositScreen.h"
+#include "receipts/EsmmImportScreen.h"
 #include "receipts/ReceiptScreen.h"
 #include "testsupport/Books.h"
+#include "testsupport/EsmmSamples.h"
 #include "testsupport/ExpectedPage.h"
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/QueryTexts.h"
@@ -17,11 +20,13 @@
 #include "testsupport/Typing.h"
 
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -81,6 +86,7 @@ private slots:
     void incompleteDepositIsRefused();
     void depositFormOnTheDotMatrixPrinter();
     void depositFormAsPdf();
+    void esmmImportThroughItsKeys();
 
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
@@ -586,6 +592,54 @@ void TestReceiptScreen::depositFormAsPdf()
     for (const char *expected : { "EMANET ALINDI MAKBUZU", "Müşteri A.Ş.", "AÇIKLAMA", "Dava masrafı", "2,500.00",
              "Yukarıda Tutarı Yazılı Bedel EMANETTEN Alınmıştır.." })
         QVERIFY2(page.contains(QString::fromUtf8(expected)), qPrintable(page));
+}
+
+// F2 opens Qt's own file dialog; the documents picked are listed with their status; F5 posts the
+// new ones, a second F5 nothing; Esc closes.
+void TestReceiptScreen::esmmImportThroughItsKeys()
+{
+    QTemporaryDir dir;
+    SampleEsmm wrong = NumberedEsmm(2);
+    wrong.payable = QStringLiteral("999.00");
+    for (const auto &[name, sample] : { std::pair { "1.xml", NumberedEsmm(1) }, std::pair { "2.xml", wrong } }) {
+        QFile file(dir.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(EsmmXml(sample)) > 0);
+    }
+    m_kit->window().menuItem(QStringLiteral("mnuesmm"))->trigger();
+    auto *screen = m_kit->window().findChild<EsmmImportScreen *>(QStringLiteral("FormEsmm"));
+    QVERIFY(screen);
+    QCOMPARE(screen->windowTitle(), QStringLiteral("e-SMM Aktar"));
+    DcList *list = screen->list();
+    auto *answer = new QTimer(this); // Qt's own dialog, answered as a user types: names, Enter
+    connect(answer, &QTimer::timeout, this, [&dir, answer] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        answer->stop();
+        dialog->setDirectory(dir.path());
+        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        QTest::keyClicks(name, QStringLiteral("\"1.xml\" \"2.xml\""));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    answer->start(20);
+    QTest::keyClick(list->view(), Qt::Key_F2);
+    const auto statuses = [list] {
+        QStringList texts;
+        for (int row = 0; row < list->ListCount(); ++row)
+            texts << list->view()->model()->index(row, 8).data().toString();
+        return texts;
+    };
+    QCOMPARE(statuses(), QStringList({ "Yeni", "Uyuşmuyor: ödenecek tutar 999.00, hesaplanan 1,000.00" }));
+    QCOMPARE(screen->findChild<QLabel *>()->accessibleName(), QStringLiteral("1 Yeni, 1 Uyuşmuyor"));
+    QApplication::setActiveWindow(&m_kit->window()); // back from the dialog
+    QTest::keyClick(list->view(), Qt::Key_F5);
+    QCOMPARE(statuses().first(), QStringLiteral("Aktarıldı (yeni cari E0000001)"));
+    QTest::keyClick(list->view(), Qt::Key_F5);
+    QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || '' AS r FROM carhar"), QStringLiteral("r")),
+        QStringList { "10000000" });
+    QPointer<EsmmImportScreen> open = screen;
+    QTest::keyClick(list->view(), Qt::Key_Escape);
+    QTRY_VERIFY(open.isNull());
 }
 
 QTEST_MAIN(TestReceiptScreen)

@@ -1,5 +1,5 @@
 #include "money/AmountConventions.h"
-#include "receipts/ReceiptCalculation.h"
+#include "money/ReceiptCalculation.h"
 
 #include <QtTest>
 

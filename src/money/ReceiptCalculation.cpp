@@ -1,4 +1,4 @@
-#include "receipts/ReceiptCalculation.h"
+#include "money/ReceiptCalculation.h"
 
 #include "money/RoundAmount.h"
 

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "money/Currency.h"
+
+#include <QByteArray>
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// What the books need of one e-SMM, the self-employment receipt issued on the Revenue
+// Administration's portal (root eArsivVeri in the namespace http://earsiv.efatura.gov.tr).
+struct EsmmDocument
+{
+    QString makbuzNo;
+    QString ettn; // the document's identity
+    QString issuer; // the mukellef's vkn or tckn
+    QDate date; // belgeTarihi
+    QString currency; // paraBirimi, "TRY" when absent
+    QString payerId; // the alici's vkn or tckn
+    QString payerName; // its unvan or adiSoyadi
+    QString payerTaxOffice; // vDaire
+    QString firstLine; // the first malHizmet's ad
+
+    Currency gross; // the lines' burutUcret, or the taxes' matrah where the lines have none
+    Currency stopaj; // tax 0003
+    Currency kdv; // tax 0015
+    Currency withheld; // the VAT withheld by the payer (tevkifatTutari)
+    int withheldPercent = 0; // tevkifatOrani
+    QString withheldCode; // tevkifatKodu
+    QStringList otherTaxCodes; // codes that are neither 0003 nor 0015
+
+    // The totals as the document states them; absent ones are not checked.
+    std::optional<Currency> statedTotal; // toplamTutar
+    std::optional<Currency> statedPayable; // odenecekTutar
+    std::optional<Currency> statedTaxes; // vergilerToplami
+};
+
+// Reads one document; false with the reason when the text is not a readable e-SMM. A document
+// type declaration is refused outright: no entity is ever expanded.
+bool ReadEsmmDocument(const QByteArray &xml, EsmmDocument *document, QString *why);

@@ -1,0 +1,253 @@
+#include "esmm/EsmmImport.h"
+
+#include "books/AccessLayer.h"
+#include "books/Backups.h"
+#include "books/CharacterCount.h"
+#include "books/DataFiles.h"
+#include "books/Parameters.h"
+#include "books/Postings.h"
+#include "books/Statement.h"
+#include "esmm/EsmmFiles.h"
+#include "money/FormatAmount.h"
+#include "money/ReceiptCalculation.h"
+
+#include <QHash>
+#include <QSet>
+
+namespace {
+
+// What the document states differs from what its lines and taxes give by more than a kuruş.
+constexpr qint64 kurus = Currency::Scale / 100;
+
+QString differs(const QString &what, Currency stated, Currency rebuilt)
+{
+    return QStringLiteral("%1 %2, hesaplanan %3").arg(what, FormatAmount(stated, 3), FormatAmount(rebuilt, 3));
+}
+
+bool apart(const std::optional<Currency> &stated, Currency rebuilt)
+{
+    return stated && ((*stated - rebuilt).magnitude().raw() > kurus || !(*stated - rebuilt).isValid());
+}
+
+// Why a document that reads well does not add up, or "" when it does. The amount due is the
+// receipt's total: the net fee (gross less withholding, no fund) with the VAT less the VAT the
+// payer withholds; the document's total is that before the withholding.
+QString mismatch(const EsmmDocument &d)
+{
+    if (!d.otherTaxCodes.isEmpty())
+        return QStringLiteral("tanınmayan vergi kodu %1").arg(d.otherTaxCodes.join(QStringLiteral(", ")));
+    const QString holder = parameters().vergino.trimmed();
+    if (!holder.isEmpty() && d.issuer != holder)
+        return QStringLiteral("düzenleyen %1, defterin sahibi %2").arg(d.issuer, holder);
+    if (d.payerId.isEmpty())
+        return QStringLiteral("alıcının vergi numarası yok");
+    if (d.gross <= Currency())
+        return QStringLiteral("brüt ücret yok");
+    const Currency payable = PayableTotal(d.gross - d.stopaj, d.kdv, d.withheld);
+    if (apart(d.statedPayable, payable))
+        return differs(QStringLiteral("ödenecek tutar"), *d.statedPayable, payable);
+    if (apart(d.statedTotal, payable + d.stopaj))
+        return differs(QStringLiteral("toplam tutar"), *d.statedTotal, payable + d.stopaj);
+    if (apart(d.statedTaxes, d.kdv + d.stopaj - d.withheld))
+        return differs(QStringLiteral("vergiler toplamı"), *d.statedTaxes, d.kdv + d.stopaj - d.withheld);
+    return QString();
+}
+
+} // namespace
+
+// The account cards by tax number, and the codes in use, read once per run; new cards for
+// payers not known.
+class PayerCards
+{
+public:
+    PayerCards()
+    {
+        std::unique_ptr<Recordset> cards;
+        if (!QueryOpen(*dataFiles().db, cards, QStringLiteral("SELECT kod, vn FROM carkart ORDER BY kod")))
+            return;
+        do {
+            const QString code = FieldRead(*cards, QStringLiteral("kod")).toString();
+            const QString number = FieldRead(*cards, QStringLiteral("vn")).toString().trimmed();
+            m_codes.insert(code);
+            if (!number.isEmpty() && !m_byNumber.contains(number))
+                m_byNumber.insert(number, code);
+        } while (RsNext(*cards));
+    }
+
+    // The code of the payer's card; made = whether it was made now. "" when it could not be made.
+    QString codeFor(const EsmmDocument &d, bool *made)
+    {
+        *made = !m_byNumber.contains(d.payerId);
+        if (!*made)
+            return m_byNumber.value(d.payerId);
+        QString code;
+        do
+            code = QStringLiteral("E%1").arg(++m_last, 7, 10, QLatin1Char('0'));
+        while (m_codes.contains(code));
+        Recordset &cards = *dataFiles().carkart;
+        if (!RsAddNew(cards))
+            return QString();
+        FieldWrite(cards, QStringLiteral("kod"), code);
+        FieldWrite(cards, QStringLiteral("unv"), FirstCharacters(d.payerName, 50));
+        FieldWrite(cards, QStringLiteral("vd"), FirstCharacters(d.payerTaxOffice, 15));
+        FieldWrite(cards, QStringLiteral("vn"), FirstCharacters(d.payerId, 15));
+        FieldWrite(cards, QStringLiteral("tip"), 0);
+        if (!RsUpdate(cards))
+            return QString();
+        m_codes.insert(code);
+        m_byNumber.insert(d.payerId, code);
+        return code;
+    }
+
+private:
+    QHash<QString, QString> m_byNumber;
+    QSet<QString> m_codes;
+    int m_last = 0;
+};
+
+QString EsmmRow::statusText() const
+{
+    switch (status) {
+    case EsmmStatus::New:
+        return QStringLiteral("Yeni");
+    case EsmmStatus::Known:
+        return QStringLiteral("Kayıtlı");
+    case EsmmStatus::Mismatch:
+        return QStringLiteral("Uyuşmuyor: ") + reason;
+    case EsmmStatus::Unreadable:
+        return QStringLiteral("Okunamadı: ") + reason;
+    case EsmmStatus::Foreign:
+        return QStringLiteral("Döviz: ") + reason;
+    case EsmmStatus::Posted:
+        break;
+    }
+    return newCard.isEmpty() ? QStringLiteral("Aktarıldı") : QStringLiteral("Aktarıldı (yeni cari %1)").arg(newCard);
+}
+
+void EsmmImport::read(const QStringList &paths)
+{
+    Statement known(dataFiles().db->handle(), QStringLiteral("SELECT 1 FROM makbuz WHERE ettn = ?1"));
+    QSet<QString> seen;
+    for (const EsmmRow &row : m_rows)
+        if (row.status == EsmmStatus::New || row.status == EsmmStatus::Posted)
+            seen.insert(row.document.ettn);
+    ReadEsmmFiles(paths, [&](const EsmmFile &file) {
+        EsmmRow row;
+        row.origin = file.origin;
+        row.reason = file.error;
+        if (row.reason.isEmpty() && file.xml.trimmed().isEmpty())
+            row.reason = QStringLiteral("boş dosya");
+        if (row.reason.isEmpty() && ReadEsmmDocument(file.xml, &row.document, &row.reason)) {
+            known.reset();
+            const bool inBooks = known.bind(1, row.document.ettn) && known.next();
+            row.status = inBooks || seen.contains(row.document.ettn) ? EsmmStatus::Known : EsmmStatus::New;
+            if (row.status == EsmmStatus::New)
+                check(row);
+            if (row.status == EsmmStatus::New)
+                seen.insert(row.document.ettn);
+        } else {
+            row.status = EsmmStatus::Unreadable;
+        }
+        m_rows.push_back(std::move(row));
+    });
+    recount();
+}
+
+void EsmmImport::check(EsmmRow &row)
+{
+    const EsmmDocument &d = row.document;
+    if (d.ettn.isEmpty() || !d.date.isValid() || d.makbuzNo.isEmpty()) {
+        row.status = EsmmStatus::Unreadable;
+        row.reason = d.ettn.isEmpty() ? QStringLiteral("ETTN yok")
+            : d.date.isValid()        ? QStringLiteral("makbuz numarası yok")
+                                      : QStringLiteral("belge tarihi yok");
+    } else if (d.currency != u"TRY") {
+        row.status = EsmmStatus::Foreign;
+        row.reason = d.currency;
+    } else {
+        row.reason = mismatch(d);
+        if (!row.reason.isEmpty())
+            row.status = EsmmStatus::Mismatch;
+    }
+}
+
+bool EsmmImport::post(QString *why)
+{
+    if (count(EsmmStatus::New) == 0)
+        return true;
+    Database &db = *dataFiles().db;
+    Backups::beforeChange();
+    if (!db.run(QStringLiteral("BEGIN IMMEDIATE"))) {
+        *why = QStringLiteral("Veri dosyası başka bir program tarafından kullanılıyor; hiçbir belge aktarılmadı.");
+        return false;
+    }
+    PayerCards cards;
+    std::vector<size_t> posted;
+    for (size_t i = 0; i < m_rows.size(); ++i) {
+        if (m_rows[i].status != EsmmStatus::New)
+            continue;
+        if (!postRow(m_rows[i], cards)) {
+            db.run(QStringLiteral("ROLLBACK"));
+            for (size_t each : posted)
+                m_rows[each].newCard.clear();
+            *why = QStringLiteral("%1 kaydedilemedi; hiçbir belge aktarılmadı.").arg(m_rows[i].document.makbuzNo);
+            return false;
+        }
+        posted.push_back(i);
+    }
+    if (!db.run(QStringLiteral("COMMIT"))) {
+        db.run(QStringLiteral("ROLLBACK"));
+        *why = QStringLiteral("Aktarım tamamlanamadı; hiçbir belge aktarılmadı.");
+        return false;
+    }
+    for (size_t each : posted)
+        m_rows[each].status = EsmmStatus::Posted;
+    recount();
+    return true;
+}
+
+// The postings of the receipt screen: the payer owes the amount due; the ledger takes the gross,
+// the withholding and the VAT computed; the receipt's own record the rest of the document.
+bool EsmmImport::postRow(EsmmRow &row, PayerCards &cards)
+{
+    const EsmmDocument &d = row.document;
+    bool made = false;
+    const QString code = cards.codeFor(d, &made);
+    if (code.isEmpty())
+        return false;
+    if (made)
+        row.newCard = code;
+    const QString evrak = d.makbuzNo.right(8); // the running number within the year
+    const Currency payable = PayableTotal(d.gross - d.stopaj, d.kdv, d.withheld);
+    const qint64 account = AddAccountPosting({ code, d.date, 2, evrak, FirstCharacters(d.firstLine, 40), 0, payable });
+    const qint64 ledger = account > 0 ? AddLedgerPosting({ 0, d.date, 0, evrak, code, FirstCharacters(d.payerName, 40),
+                              d.gross, d.stopaj, Currency(), d.kdv })
+                                      : 0;
+    ReceiptRecord record;
+    record.tevkoran = d.withheldPercent;
+    record.tevkifat = d.withheld;
+    record.tevkkod = d.withheldCode;
+    record.makbuzno = d.makbuzNo;
+    record.ettn = d.ettn;
+    record.vkn = d.issuer;
+    record.dosya = row.origin;
+    return ledger > 0 && AddReceiptRecord(ledger, account, record);
+}
+
+void EsmmImport::recount()
+{
+    m_counts = {};
+    for (const EsmmRow &row : m_rows)
+        ++m_counts[size_t(row.status)];
+}
+
+QString EsmmImport::summary() const
+{
+    static const char16_t *const names[EsmmStatusCount]
+        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Aktarıldı" };
+    QStringList parts;
+    for (int s = 0; s < EsmmStatusCount; ++s)
+        if (m_counts[size_t(s)] > 0)
+            parts << QStringLiteral("%1 %2").arg(m_counts[size_t(s)]).arg(QString::fromUtf16(names[s]));
+    return parts.isEmpty() ? QStringLiteral("Belge bulunamadı") : parts.join(QStringLiteral(", "));
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "esmm/EsmmDocument.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <vector>
+
+class PayerCards;
+
+// What became of a document found.
+enum class EsmmStatus {
+    New, // "Yeni": adds up, not yet in the books
+    Known, // "Kayıtlı": its ETTN is in the books (or came earlier in this run)
+    Mismatch, // "Uyuşmuyor: …": held back, with the reason
+    Unreadable, // "Okunamadı: …": not an e-SMM, or the file could not be read
+    Foreign, // "Döviz: …": in another currency
+    Posted, // "Aktarıldı": posted by this run
+};
+constexpr int EsmmStatusCount = 6;
+
+struct EsmmRow
+{
+    QString origin;
+    EsmmDocument document;
+    EsmmStatus status = EsmmStatus::New;
+    QString reason;
+    QString newCard; // the code of the card made for its payer
+    // "Yeni", "Kayıtlı", "Uyuşmuyor: …", "Okunamadı: …", "Döviz: …", "Aktarıldı (yeni cari …)".
+    QString statusText() const;
+};
+
+// One import run over the open books: the documents found under the paths, checked, and the new
+// ones posted as the receipt screen posts a receipt (account, ledger, the receipt's own record),
+// each exactly once.
+class EsmmImport
+{
+public:
+    // Reads and checks every document under the paths; adds a row for each.
+    void read(const QStringList &paths);
+    // Posts the new rows in one transaction, with a card for each payer not known by its tax
+    // number: all of them or, on a failure (its reason in `why`), none.
+    bool post(QString *why);
+
+    const std::vector<EsmmRow> &rows() const { return m_rows; }
+    int count(EsmmStatus status) const { return m_counts[size_t(status)]; }
+    // "3 Yeni, 1 Kayıtlı, …": the statuses that occur, in their order.
+    QString summary() const;
+
+private:
+    void check(EsmmRow &row);
+    bool postRow(EsmmRow &row, PayerCards &cards);
+    void recount();
+
+    std::vector<EsmmRow> m_rows;
+    std::array<int, EsmmStatusCount> m_counts {};
+};
