@@ -50,6 +50,7 @@ bench: build
 	$(BUILD)/bench/bench_accounts
 	$(BUILD)/bench/bench_ledger
 	$(BUILD)/bench/bench_accountreports
+	$(BUILD)/bench/bench_esmm
 
 format:
 	find src tests bench -name '*.cpp' -o -name '*.h' | xargs clang-format -i

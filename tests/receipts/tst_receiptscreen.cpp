@@ -610,19 +610,22 @@ void TestReceiptScreen::esmmImportThroughItsKeys()
     QVERIFY(screen);
     QCOMPARE(screen->windowTitle(), QStringLiteral("e-SMM Aktar"));
     DcList *list = screen->list();
-    auto *answer = new QTimer(this); // Qt's own dialog, answered as a user types: names, Enter
-    connect(answer, &QTimer::timeout, this, [&dir, answer] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+    QTimer answer; // Qt's own dialog, answered with the names typed, again until it takes them
+    connect(&answer, &QTimer::timeout, this, [&dir] {
+        QFileDialog *dialog = nullptr;
+        for (QWidget *each : QApplication::topLevelWidgets())
+            dialog = dialog ? dialog : qobject_cast<QFileDialog *>(each);
         if (!dialog || !dialog->isVisible())
             return;
-        answer->stop();
         dialog->setDirectory(dir.path());
         auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        name->clear();
         QTest::keyClicks(name, QStringLiteral("\"1.xml\" \"2.xml\""));
-        QTest::keyClick(name, Qt::Key_Return);
+        QMetaObject::invokeMethod(dialog, "accept"); // not Enter: the name completer may take it
     });
-    answer->start(20);
+    answer.start(50);
     QTest::keyClick(list->view(), Qt::Key_F2);
+    answer.stop();
     const auto statuses = [list] {
         QStringList texts;
         for (int row = 0; row < list->ListCount(); ++row)
