@@ -36,11 +36,13 @@ using namespace SyntheticBook;
 
 namespace {
 
-const char *reportSql = "SELECT month(tarih) AS ay, islem = 0 AS gelir, sum(brut), sum(stopaj), sum(fon), sum(kdv) "
-                        "FROM defter WHERE tarih >= ?1 AND tarih <= ?2 GROUP BY ay, gelir";
+const char *reportSql = "SELECT month(d.tarih) AS ay, d.islem = 0 AS gelir, sum(d.brut), sum(d.stopaj), sum(d.fon), "
+                        "sum(d.kdv), sum(m.tevkifat) FROM defter d LEFT JOIN makbuz m ON m.defter = d.oto "
+                        "WHERE d.tarih >= ?1 AND d.tarih <= ?2 GROUP BY ay, gelir";
 const char *bookSql = "SELECT * FROM defter WHERE islem = 0 AND tarih >= ?1 AND tarih <= ?2 ORDER BY tarih, oto";
-const char *officialSql = "SELECT tarih, evrak, ack, brut, stopaj, fon, kdv FROM defter "
-                          "WHERE islem = 0 AND tarih >= ?1 AND tarih <= ?2 ORDER BY tarih, oto";
+const char *officialSql = "SELECT d.tarih, d.evrak, d.ack, d.brut, d.stopaj, d.fon, d.kdv, m.tevkifat FROM defter d "
+                          "LEFT JOIN makbuz m ON m.defter = d.oto "
+                          "WHERE d.islem = 0 AND d.tarih >= ?1 AND d.tarih <= ?2 ORDER BY d.tarih, d.oto";
 const char *withholdingSql
     = "SELECT d.tarih, d.brut, d.stopaj, k.unv, k.vn, k.vd FROM defter d LEFT JOIN carkart k ON k.kod = d.cari "
       "WHERE d.islem = 0 AND d.stopaj > 0 ORDER BY d.cari, d.tarih, d.oto";
