@@ -9,10 +9,11 @@ namespace {
 
 const QString otoIndex = QStringLiteral("oto");
 
-// Amounts are stored as they are shown and printed: rounded to the decimals of the parameters.
+// Amounts are stored as they are shown and printed: with the decimals of the parameters, an
+// amount that has them unchanged, so that a row stored again keeps its amounts.
 QVariant storedAmount(Currency amount)
 {
-    return QVariant::fromValue(RoundAmount(amount));
+    return QVariant::fromValue(KeptAmount(amount));
 }
 
 void writeFields(Recordset &rs, const AccountPosting &p)
@@ -88,7 +89,7 @@ bool AddReceiptRecord(qint64 ledgerOto, qint64 accountOto, const ReceiptRecord &
     Statement insert(dataFiles().db->handle(),
         QStringLiteral("INSERT INTO makbuz (defter, carhar, tevkoran, tevkifat, tevkkod, makbuzno, ettn, vkn, dosya) "
                        "VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)"));
-    return insert.bindAll({ ledgerOto, accountOto, r.tevkoran, RoundAmount(r.tevkifat).raw(), text(r.tevkkod),
+    return insert.bindAll({ ledgerOto, accountOto, r.tevkoran, KeptAmount(r.tevkifat).raw(), text(r.tevkkod),
                text(r.makbuzno), text(r.ettn), text(r.vkn), text(r.dosya) })
         && insert.execute();
 }

@@ -7,6 +7,7 @@
 #include "controls/EntryRules.h"
 #include "controls/QuickFont.h"
 #include "controls/SpreadsheetExport.h"
+#include "money/AmountConventions.h"
 #include "money/RoundAmount.h"
 
 #include <QApplication>
@@ -573,6 +574,9 @@ void DcList::leaveCell()
         return;
     }
     const DcColumn &column = m_model->columns()[size_t(m_column)];
+    // An amount is rounded once, as it is accepted: the cell shows what will be stored.
+    if (column.isNumber() && column.onda == amountConventions().tlonda && !m_editor->text().trimmed().isEmpty())
+        m_editor->setText(KeptAmount(Currency::fromString(ExactNumberText(m_editor->text()))).toString());
     if (column.kosul != 6) {
         acceptCell(m_editor->text());
         return;

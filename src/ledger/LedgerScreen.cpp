@@ -135,7 +135,8 @@ void LedgerScreen::load()
     recompute(0);
 }
 
-// The gross of an income row brings its withholding, fund and VAT with it.
+// The gross of an income row brings its withholding, fund and VAT with it; a stored row whose
+// gross is confirmed unchanged keeps the taxes it was stored with (a receipt's, say).
 void LedgerScreen::grossChecked(int column, const QString &, const QString &value)
 {
     if (m_book != Gelir || column != Brut)
@@ -143,6 +144,12 @@ void LedgerScreen::grossChecked(int column, const QString &, const QString &valu
     const Currency gross = Currency::fromString(value);
     if (gross <= Currency()) {
         Message::exclamation(QStringLiteral("Sayı Olmalı.."));
+        return;
+    }
+    LedgerPosting stored;
+    if (ReadLedgerPosting(editedKey(), &stored) && stored.brut == KeptAmount(gross)) {
+        list()->OnKosulReturn(true, gross.toString());
+        showRowNet(list()->CurSat());
         return;
     }
     const ParameterSet &rates = parameters();

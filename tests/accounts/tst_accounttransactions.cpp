@@ -24,6 +24,8 @@ private slots:
     void listsInOrderWithRunningBalance();
     void typedRowIsStoredThenEdited();
     void editAfterAnInsertedRow();
+    void amountsAreStoredAsShownAndStay_data();
+    void amountsAreStoredAsShownAndStay();
     void typedValuesAreNormalised_data();
     void typedValuesAreNormalised();
     void typePanelFillsTheCell();
@@ -167,6 +169,61 @@ void TestAccountTransactions::editAfterAnInsertedRow()
     typeCell(QStringLiteral("70"));
     QCOMPARE(column(AccountTransactionsScreen::Bakiye), QStringList({ "", "100.00", "170.00", "170.00" }));
     QCOMPARE(panel(2, 2), QStringLiteral("170.00"));
+}
+
+void TestAccountTransactions::amountsAreStoredAsShownAndStay_data()
+{
+    QTest::addColumn<int>("decimals"); // "TL Onda"
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("0: whole liras") << 0 << "1234.5"
+                                    << "12,345"
+                                    << "123450000"; // no decimal point
+    QTest::newRow("2: rounded as typed") << 2 << "1.2345"
+                                         << "1.24"
+                                         << "12400";
+    QTest::newRow("2: 1.23 stays") << 2 << "1.23"
+                                   << "1.23"
+                                   << "12300";
+    QTest::newRow("3: 1.235 stays") << 3 << "1.235"
+                                    << "1.235"
+                                    << "12350";
+    QTest::newRow("3: 10.001 stays") << 3 << "10.001"
+                                     << "10.001"
+                                     << "100010";
+    QTest::newRow("4: 1.235 stays") << 4 << "1.235"
+                                    << "1.2350"
+                                    << "12350";
+    QTest::newRow("5: 1.2345 stays") << 5 << "1.2345"
+                                     << "1.23450"
+                                     << "12345";
+}
+
+// What the list shows is what is stored, and a row listed and stored again keeps its amount.
+void TestAccountTransactions::amountsAreStoredAsShownAndStay()
+{
+    QFETCH(int, decimals);
+    QFETCH(QString, typed);
+    QFETCH(QString, shown);
+    QFETCH(QString, stored);
+    m_screen->closeScreen();
+    QTRY_VERIFY(!m_screen);
+    amountConventions().tlonda = decimals;
+    m_screen = m_kit->open<AccountTransactionsScreen>("mnucarhar", "Form4");
+    chooseAccount(QStringLiteral("K1"));
+    TypeGridRow(grid(), { "05", "M1", "Danışma", "1", "+", typed });
+    const QString amount = QStringLiteral("SELECT tutar || '' AS r FROM carhar");
+    QCOMPARE(QueryTexts(amount, QStringLiteral("r")), QStringList { stored });
+    for (int again = 0; again < 2; ++again) {
+        chooseAccount(QStringLiteral("K1"));
+        QCOMPARE(column(AccountTransactionsScreen::Tutar).value(0), shown);
+        grid()->ChngSat(0);
+        QTest::keyClick(grid()->view(), Qt::Key_Return);
+        for (int cell = 0; cell < 6; ++cell)
+            QTest::keyClick(grid()->editor(), Qt::Key_Return);
+        QCOMPARE(QueryTexts(amount, QStringLiteral("r")), QStringList { stored });
+    }
 }
 
 void TestAccountTransactions::typedValuesAreNormalised_data()

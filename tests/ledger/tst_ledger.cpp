@@ -198,15 +198,17 @@ void TestLedger::expenseBook()
     QCOMPARE(label(4), QStringLiteral("450.00"));
 }
 
+// A receipt's row walked through keeps its account and its taxes: its fund is 1 % of the
+// withholding (2.00), not of the gross the ledger would take (10.00).
 void TestLedger::receiptRowKeepsItsAccount()
 {
-    book(0, QDate(2026, 11, 2), 1000, 200, 10, 180, QStringLiteral("K1"));
+    book(0, QDate(2026, 11, 2), 1000, 200, 2, 180, QStringLiteral("K1"));
     QVERIFY(openLedger());
     QTest::keyClick(grid(m_ledger)->view(), Qt::Key_Up);
     QTest::keyClick(grid(m_ledger)->view(), Qt::Key_Return);
     for (int cell = 0; cell < 7; ++cell)
         QTest::keyClick(grid(m_ledger)->editor(), Qt::Key_Return);
-    QCOMPARE(storedRows(), QStringList { "0:46328:E1:K1:Kayıt:10000000:2000000:100000:1800000" });
+    QCOMPARE(storedRows(), QStringList { "0:46328:E1:K1:Kayıt:10000000:2000000:20000:1800000" });
 }
 
 void TestLedger::deleteAsksFirst()
