@@ -213,6 +213,7 @@ void TestAccountTransactions::amountsAreStoredAsShownAndStay()
     m_screen = m_kit->open<AccountTransactionsScreen>("mnucarhar", "Form4");
     chooseAccount(QStringLiteral("K1"));
     TypeGridRow(grid(), { "05", "M1", "Danışma", "1", "+", typed });
+    QCOMPARE(column(AccountTransactionsScreen::Tutar).value(0), shown); // as typed, before any relisting
     const QString amount = QStringLiteral("SELECT tutar || '' AS r FROM carhar");
     QCOMPARE(QueryTexts(amount, QStringLiteral("r")), QStringList { stored });
     for (int again = 0; again < 2; ++again) {
