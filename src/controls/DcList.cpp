@@ -175,16 +175,36 @@ void DcList::setCellFont(const QFont &font)
 
 // Rows and cells ---------------------------------------------------------------------------
 
-// A full list says so once until it is emptied: what it shows is not all there is.
 int DcList::CreateNewCaption()
 {
-    const int row = m_model->appendRow();
-    if (row < 0 && !m_toldFull) {
-        m_toldFull = true;
-        Message::information(QStringLiteral("Liste %1 satırda kesildi; tarih aralığını daraltınız.")
-                                 .arg(QLocale(QLocale::Turkish).toString(DcListModel::MaxRows)));
-    }
+    return AddCaptions({});
+}
+
+int DcList::AddCaptions(const QStringList &cells)
+{
+    const int row = m_model->appendRow(cells);
+    if (row < 0)
+        tellFull();
     return row;
+}
+
+int DcList::AddCaptionRows(std::vector<QStringList> rows)
+{
+    const size_t wanted = rows.size();
+    const int added = m_model->appendRows(std::move(rows));
+    if (size_t(added) < wanted)
+        tellFull();
+    return added;
+}
+
+// A full list says so once until it is emptied: what it shows is not all there is.
+void DcList::tellFull()
+{
+    if (m_toldFull)
+        return;
+    m_toldFull = true;
+    Message::information(QStringLiteral("Liste %1 satırda kesildi; tarih aralığını daraltınız.")
+                             .arg(QLocale(QLocale::Turkish).toString(DcListModel::MaxRows)));
 }
 
 int DcList::ListCount() const

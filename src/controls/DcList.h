@@ -39,6 +39,10 @@ public:
 
     // Rows and cells
     int CreateNewCaption();
+    // A row with its cells' texts at the end (CreateNewCaption and a Caption per cell, at once).
+    int AddCaptions(const QStringList &cells);
+    // Rows of cell texts at the end at once; answers how many the list took.
+    int AddCaptionRows(std::vector<QStringList> rows);
     int ListCount() const;
     QString Caption(int row, int col) const;
     void setCaption(int row, int col, const QString &value);
@@ -153,6 +157,7 @@ private:
     bool m_waitingForCheck = false; // a checked value is out with the screen
     QString m_valueBeforeCheck;
     int m_heldRow = -1; // a completed row the screen has not acknowledged yet
+    void tellFull();
     bool m_toldFull = false; // the user was told the list is full
     QColor m_activeText = Qt::white, m_activeBack = QColor(255, 0, 0);
     QColor m_headerText = QColor(0, 50, 0), m_headerBack = QColor(200, 255, 200);

@@ -85,19 +85,35 @@ int DcListModel::columnByName(const QString &name) const
     return -1;
 }
 
-int DcListModel::appendRow()
+int DcListModel::appendRow(QStringList cells)
 {
     if (rowCount() >= MaxRows)
         return -1;
     const int row = rowCount();
     beginInsertRows(QModelIndex(), row, row);
-    QStringList empty;
-    empty.reserve(columnCount());
-    for (int c = 0; c < columnCount(); ++c)
-        empty.append(QString());
-    m_rows.push_back(std::move(empty));
+    cells.reserve(columnCount());
+    while (cells.size() < columnCount())
+        cells.append(QString());
+    m_rows.push_back(std::move(cells));
     endInsertRows();
     return row;
+}
+
+int DcListModel::appendRows(std::vector<QStringList> rows)
+{
+    const int first = rowCount();
+    const int count = int(qMin<size_t>(rows.size(), size_t(qMax(0, MaxRows - first))));
+    if (count == 0)
+        return 0;
+    beginInsertRows(QModelIndex(), first, first + count - 1);
+    for (int r = 0; r < count; ++r) {
+        QStringList &cells = rows[size_t(r)];
+        while (cells.size() < columnCount())
+            cells.append(QString());
+        m_rows.push_back(std::move(cells));
+    }
+    endInsertRows();
+    return count;
 }
 
 void DcListModel::insertEmptyRow(int row)

@@ -2,6 +2,7 @@
 
 #include "books/AccessLayer.h"
 #include "controls/DcList.h"
+#include "controls/DcListModel.h"
 #include "money/Currency.h"
 #include "money/DayNumber.h"
 
@@ -29,14 +30,18 @@ int FillGrid(DcList &list, Recordset &records)
         if (!name.isEmpty() && records.read(name, &probe))
             columns.emplace_back(c, name);
     }
-    int added = 0;
-    for (; !RsEof(records); RsNext(records)) {
-        const int row = list.CreateNewCaption();
-        if (row < 0)
-            break;
+    // The rows go to the grid at once: the view is told of them once, not row by row.
+    const int width = list.view()->model()->columnCount();
+    const int room = DcListModel::MaxRows - list.ListCount();
+    std::vector<QStringList> rows;
+    for (; !RsEof(records) && int(rows.size()) <= room; RsNext(records)) {
+        QStringList cells;
+        cells.reserve(width);
+        for (int c = 0; c < width; ++c)
+            cells.append(QString());
         for (const auto &[column, field] : columns)
-            list.setCaption(row, column, GridCellText(FieldRead(records, field)));
-        ++added;
+            cells[column] = GridCellText(FieldRead(records, field));
+        rows.push_back(std::move(cells));
     }
-    return added;
+    return list.AddCaptionRows(std::move(rows));
 }

@@ -30,12 +30,10 @@ void DefineReportColumns(DcList &list, const ReportColumns &columns)
 
 bool AddReportRow(DcList &list, const ReportColumns &columns, const QVariantList &cells)
 {
-    const int row = list.CreateNewCaption();
-    if (row < 0)
-        return false;
-    int shown = 0;
+    QStringList shown;
+    shown.reserve(int(columns.size()));
     for (size_t c = 0; c < columns.size(); ++c)
         if (columns[c].listed())
-            list.setCaption(row, shown++, GridCellText(cells.value(int(c))));
-    return true;
+            shown << GridCellText(cells.value(int(c)));
+    return list.AddCaptions(shown) >= 0;
 }
