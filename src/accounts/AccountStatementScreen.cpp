@@ -42,7 +42,7 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
     std::unique_ptr<Recordset> rows;
     if (!QueryOpen(*dataFiles().db, rows, sql, values))
         return;
-    QString walked;
+    QString walked, lastSpelling;
     bool shown = false; // the walked account has a card of an admitted type
     Currency debit, credit;
     const auto closeAccount = [&] {
@@ -53,20 +53,25 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
     };
     Recordset &cards = *dataFiles().carkart;
     for (; !RsEof(*rows); RsNext(*rows)) {
-        // The spellings of one code ("ışık", "IŞIK") are one account, headed by its card's code.
-        const QString kod = TurkishUpper(FieldRead(*rows, QStringLiteral("kod")).toString());
-        if (kod != walked) {
-            closeAccount();
-            walked = kod;
-            debit = credit = Currency();
-            // Rows under a code without a card are the account's all the same, with an empty title.
-            const bool hasCard = CariExists(kod);
-            shown = !hasCard || admits(FieldRead(cards, QStringLiteral("tip")).toInt());
-            if (shown)
-                emitLine(Line::Heading,
-                    { hasCard ? FieldRead(cards, QStringLiteral("kod")) : FieldRead(*rows, QStringLiteral("kod")),
-                        QString(), QString(),
-                        hasCard ? FieldRead(cards, QStringLiteral("unv")).toString() : QString() });
+        // The spellings of one code ("ışık", "IŞIK") are one account, headed by its card's code;
+        // a row spelled as the one before belongs to the same account.
+        const QString spelling = FieldRead(*rows, QStringLiteral("kod")).toString();
+        if (spelling != lastSpelling || walked.isNull()) {
+            lastSpelling = spelling;
+            const QString kod = TurkishUpper(spelling);
+            if (kod != walked) {
+                closeAccount();
+                walked = kod;
+                debit = credit = Currency();
+                // Rows under a code without a card are the account's all the same, with an empty title.
+                const bool hasCard = CariExists(kod);
+                shown = !hasCard || admits(FieldRead(cards, QStringLiteral("tip")).toInt());
+                if (shown)
+                    emitLine(Line::Heading,
+                        { hasCard ? FieldRead(cards, QStringLiteral("kod")) : FieldRead(*rows, QStringLiteral("kod")),
+                            QString(), QString(),
+                            hasCard ? FieldRead(cards, QStringLiteral("unv")).toString() : QString() });
+            }
         }
         if (!shown)
             continue;
