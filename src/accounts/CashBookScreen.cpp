@@ -26,6 +26,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -147,8 +148,14 @@ QDate CashBookScreen::day() const
 
 bool CashBookScreen::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_date->textBox() && event->type() == QEvent::FocusIn)
+    if (watched == m_date->textBox() && event->type() == QEvent::FocusIn) {
         m_dateChecked = false; // the day is listed again on the way to the grid
+        // Clicked away from an open cell: the edit ends as Esc ends it, the rows stay as stored.
+        if (list()->CurrentMode() == 2) {
+            list()->AlanDegisti(-101);
+            QTimer::singleShot(0, m_date, [this] { m_date->setFocus(); });
+        }
+    }
     return PostingGridScreen::eventFilter(watched, event);
 }
 

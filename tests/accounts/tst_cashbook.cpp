@@ -53,6 +53,7 @@ private slots:
     void lookupFillsTheCodeCell();
     void invalidDateListsNothing();
     void dayIsListedOncePerVisit();
+    void clickIntoTheDateEndsTheEdit();
     void rowsCrossBetweenScreens();
     void deleteAsksFirst();
     void printedDayOnTheDotMatrixPrinter_data();
@@ -275,6 +276,28 @@ void TestCashBook::dayIsListedOncePerVisit()
     QVERIFY(date()->textBox()->hasFocus());
     enterGrid(); // a new visit lists the day again
     QCOMPARE(grid()->ListCount(), 3);
+}
+
+// With a cell open, a click into the date field ends the edit as Esc does (the row stays as
+// stored); a changed date is listed on the way back, and nothing moves to it.
+void TestCashBook::clickIntoTheDateEndsTheEdit()
+{
+    post(QStringLiteral("K1"), 1, 1, 100);
+    const QStringList before = stored();
+    enterGrid();
+    QTest::keyClick(grid()->view(), Qt::Key_Up);
+    QTest::keyClick(grid()->view(), Qt::Key_Return);
+    typeKeys(grid()->editor(), QStringLiteral("K2"));
+    QCOMPARE(grid()->CurrentMode(), 2);
+    QTest::mouseClick(date()->textBox(), Qt::LeftButton);
+    QTRY_VERIFY(date()->textBox()->hasFocus());
+    QVERIFY(grid()->CurrentMode() != 2); // no cell open
+    QCOMPARE(shownRow(0).first(), QStringLiteral("K1"));
+    TypeIntoField(date(), QStringLiteral("17112026"));
+    QTest::mouseClick(grid()->view()->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    QTRY_COMPARE(grid()->ListCount(), 1); // 17.11: no rows yet
+    QCOMPARE(stored(), before);
+    QVERIFY(m_kit->messages().entries().isEmpty());
 }
 
 void TestCashBook::rowsCrossBetweenScreens()
