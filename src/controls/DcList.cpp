@@ -639,7 +639,10 @@ bool DcList::eventFilter(QObject *watched, QEvent *event)
     } else if (watched == m_view && event->type() == QEvent::FocusOut && m_mode == 1
         && QApplication::focusWidget() != m_editor) {
         m_mode = 0;
-    } else if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress && m_mode != 2) {
+    } else if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress && m_mode == 2) {
+        m_editor->setFocus(); // a click on the list while a cell is open leaves the keys with the cell
+        return true;
+    } else if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress) {
         const auto *mouse = static_cast<QMouseEvent *>(event);
         const QModelIndex index = m_view->indexAt(mouse->position().toPoint());
         if (index.isValid()) {

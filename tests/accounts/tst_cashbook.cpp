@@ -54,6 +54,7 @@ private slots:
     void invalidDateListsNothing();
     void dayIsListedOncePerVisit();
     void clickIntoTheDateEndsTheEdit();
+    void clickOnTheListKeepsTheKeys();
     void rowsCrossBetweenScreens();
     void deleteAsksFirst();
     void printedDayOnTheDotMatrixPrinter_data();
@@ -298,6 +299,20 @@ void TestCashBook::clickIntoTheDateEndsTheEdit()
     QTRY_COMPARE(grid()->ListCount(), 1); // 17.11: no rows yet
     QCOMPARE(stored(), before);
     QVERIFY(m_kit->messages().entries().isEmpty());
+}
+
+// A click on the list while a cell is open leaves the keys with the open cell: Enter goes on.
+void TestCashBook::clickOnTheListKeepsTheKeys()
+{
+    post(QStringLiteral("K1"), 1, 1, 100);
+    enterGrid();
+    QTest::keyClick(grid()->view(), Qt::Key_Up);
+    QTest::keyClick(grid()->view(), Qt::Key_Return);
+    QTest::mouseClick(grid()->view()->viewport(), Qt::LeftButton, {},
+        grid()->view()->visualRect(grid()->view()->model()->index(0, 3)).center());
+    QCOMPARE(QApplication::focusWidget(), grid()->editor());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(grid()->CurrentCol(), 1);
 }
 
 void TestCashBook::rowsCrossBetweenScreens()
