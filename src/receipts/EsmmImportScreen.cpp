@@ -17,15 +17,15 @@ const QString dialogTitle = QStringLiteral("e-SMM Belgeleri");
 
 ReportColumns columns()
 {
-    return { DateColumn(QStringLiteral("tarih"), QStringLiteral("Tarih"), 0, 90),
-        TextColumn(QStringLiteral("makbuzno"), QStringLiteral("Makbuz No"), 0, 140),
-        TextColumn(QStringLiteral("alici"), QStringLiteral("Alıcı"), 0, 200),
-        AmountColumn(QStringLiteral("brut"), QStringLiteral("Brüt"), 0, 100),
-        AmountColumn(QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 0, 90),
-        AmountColumn(QStringLiteral("kdv"), QStringLiteral("KDV"), 0, 90),
-        AmountColumn(QStringLiteral("tevkifat"), QStringLiteral("Tevk. KDV"), 0, 90),
-        AmountColumn(QStringLiteral("odenecek"), QStringLiteral("Ödenecek"), 0, 100),
-        TextColumn(QStringLiteral("durum"), QStringLiteral("Durum"), 0, 320) };
+    return { DateColumn(QStringLiteral("tarih"), QStringLiteral("Tarih"), 0, 85),
+        TextColumn(QStringLiteral("makbuzno"), QStringLiteral("Makbuz No"), 0, 150),
+        TextColumn(QStringLiteral("alici"), QStringLiteral("Alıcı"), 0, 140),
+        AmountColumn(QStringLiteral("brut"), QStringLiteral("Brüt"), 0, 90),
+        AmountColumn(QStringLiteral("stopaj"), QStringLiteral("Stopaj"), 0, 80),
+        AmountColumn(QStringLiteral("kdv"), QStringLiteral("KDV"), 0, 80),
+        AmountColumn(QStringLiteral("tevkifat"), QStringLiteral("Tevk. KDV"), 0, 80),
+        AmountColumn(QStringLiteral("odenecek"), QStringLiteral("Ödenecek"), 0, 90),
+        TextColumn(QStringLiteral("durum"), QStringLiteral("Durum"), 0, 180) };
 }
 
 } // namespace
