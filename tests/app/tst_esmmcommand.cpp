@@ -31,7 +31,9 @@ void TestEsmmCommand::init()
     m_books = std::make_unique<BooksFixture>();
     QVERIFY(m_books->isReady());
     CloseDataFiles(); // the second program has the books
-    QVERIFY(QFile::copy(QStringLiteral(PROGRAM_PATH), path(QStringLiteral("serbestmeslek"))));
+    // The program is built at the top of the build folder, two floors above this test.
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/../../serbestmeslek");
+    QVERIFY(QFile::copy(program, path(QStringLiteral("serbestmeslek"))));
 }
 
 void TestEsmmCommand::cleanup()
