@@ -105,19 +105,28 @@ const QStringList &ownTables()
     return sql;
 }
 
-// Books made before the program's own table get it, empty, when they open: no row changes.
-bool addOwnTables(Database &db)
+// Runs the steps in one transaction: all of them, or (at the first failure) none.
+bool runAllOrNothing(Database &db, const QStringList &steps)
 {
-    if (!db.texts(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name = 'makbuz'")).isEmpty())
-        return true;
     if (!db.run(QStringLiteral("BEGIN IMMEDIATE")))
         return false;
-    for (const QString &step : ownTables())
+    for (const QString &step : steps)
         if (!db.run(step)) {
             db.run(QStringLiteral("ROLLBACK"));
             return false;
         }
-    return db.run(QStringLiteral("COMMIT"));
+    if (db.run(QStringLiteral("COMMIT")))
+        return true;
+    db.run(QStringLiteral("ROLLBACK"));
+    return false;
+}
+
+// Books made before the program's own table get it, empty, when they open: no row changes.
+bool addOwnTables(Database &db)
+{
+    return !db.texts(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name = 'makbuz'"))
+                .isEmpty()
+        || runAllOrNothing(db, ownTables());
 }
 
 QString &programFolder()
@@ -219,19 +228,13 @@ QStringList rebuildSteps(Database &db, const TableShape &shape)
 void dropOwnCollation(Database &db)
 {
     const QStringList tables = tablesWithOwnCollation(db);
-    if (tables.isEmpty() || !Backups::make(db) || !db.run(QStringLiteral("BEGIN IMMEDIATE")))
+    if (tables.isEmpty() || !Backups::make(db))
         return;
     QStringList steps;
     for (const TableShape &table : schema())
         if (tables.contains(QString::fromUtf16(table.name)))
             steps << rebuildSteps(db, table);
-    for (const QString &step : std::as_const(steps))
-        if (!db.run(step)) {
-            db.run(QStringLiteral("ROLLBACK"));
-            return;
-        }
-    if (!db.run(QStringLiteral("COMMIT")))
-        db.run(QStringLiteral("ROLLBACK"));
+    runAllOrNothing(db, steps);
 }
 
 // "xsmm.dat.yeni-<process>": a new file while its tables are being made.

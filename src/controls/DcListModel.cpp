@@ -87,16 +87,9 @@ int DcListModel::columnByName(const QString &name) const
 
 int DcListModel::appendRow(QStringList cells)
 {
-    if (rowCount() >= MaxRows)
-        return -1;
-    const int row = rowCount();
-    beginInsertRows(QModelIndex(), row, row);
-    cells.reserve(columnCount());
-    while (cells.size() < columnCount())
-        cells.append(QString());
-    m_rows.push_back(std::move(cells));
-    endInsertRows();
-    return row;
+    std::vector<QStringList> row;
+    row.push_back(std::move(cells));
+    return appendRows(std::move(row)) == 1 ? rowCount() - 1 : -1;
 }
 
 int DcListModel::appendRows(std::vector<QStringList> rows)
@@ -108,8 +101,8 @@ int DcListModel::appendRows(std::vector<QStringList> rows)
     beginInsertRows(QModelIndex(), first, first + count - 1);
     for (int r = 0; r < count; ++r) {
         QStringList &cells = rows[size_t(r)];
-        while (cells.size() < columnCount())
-            cells.append(QString());
+        if (cells.size() < columnCount())
+            cells.resize(columnCount());
         m_rows.push_back(std::move(cells));
     }
     endInsertRows();

@@ -30,15 +30,13 @@ int FillGrid(DcList &list, Recordset &records)
         if (!name.isEmpty() && records.read(name, &probe))
             columns.emplace_back(c, name);
     }
-    // The rows go to the grid at once: the view is told of them once, not row by row.
+    // The rows go to the grid at once: the view is told of them once, not row by row. One row
+    // past the room makes the list say that it was cut.
     const int width = list.view()->model()->columnCount();
     const int room = DcListModel::MaxRows - list.ListCount();
     std::vector<QStringList> rows;
     for (; !RsEof(records) && int(rows.size()) <= room; RsNext(records)) {
-        QStringList cells;
-        cells.reserve(width);
-        for (int c = 0; c < width; ++c)
-            cells.append(QString());
+        QStringList cells(width);
         for (const auto &[column, field] : columns)
             cells[column] = GridCellText(FieldRead(records, field));
         rows.push_back(std::move(cells));

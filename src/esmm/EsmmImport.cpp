@@ -12,7 +12,9 @@
 #include "money/ReceiptCalculation.h"
 
 #include <QHash>
+
 #include <QSet>
+#include <algorithm>
 
 namespace {
 
@@ -29,9 +31,8 @@ bool apart(const std::optional<Currency> &stated, Currency rebuilt)
     return stated && ((*stated - rebuilt).magnitude().raw() > kurus || !(*stated - rebuilt).isValid());
 }
 
-// Why a document that reads well does not add up, or "" when it does. The amount due is the
-// receipt's total: the net fee (gross less withholding, no fund) with the VAT less the VAT the
-// payer withholds; the document's total is that before the withholding.
+// Why a document that reads well does not add up, or "" when it does. The document's total is the
+// amount due before the withholding.
 QString mismatch(const EsmmDocument &d)
 {
     if (!d.otherTaxCodes.isEmpty())
@@ -43,7 +44,7 @@ QString mismatch(const EsmmDocument &d)
         return QStringLiteral("alıcının vergi numarası yok");
     if (d.gross <= Currency())
         return QStringLiteral("brüt ücret yok");
-    const Currency payable = PayableTotal(d.gross - d.stopaj, d.kdv, d.withheld);
+    const Currency payable = AmountDue(d);
     if (apart(d.statedPayable, payable))
         return differs(QStringLiteral("ödenecek tutar"), *d.statedPayable, payable);
     if (apart(d.statedTotal, payable + d.stopaj))
@@ -105,23 +106,25 @@ private:
     int m_last = 0;
 };
 
+QString EsmmStatusName(EsmmStatus status)
+{
+    static const char16_t *const names[EsmmStatusCount]
+        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Aktarıldı" };
+    return QString::fromUtf16(names[int(status)]);
+}
+
+Currency AmountDue(const EsmmDocument &d)
+{
+    return PayableTotal(d.gross - d.stopaj, d.kdv, d.withheld);
+}
+
 QString EsmmRow::statusText() const
 {
-    switch (status) {
-    case EsmmStatus::New:
-        return QStringLiteral("Yeni");
-    case EsmmStatus::Known:
-        return QStringLiteral("Kayıtlı");
-    case EsmmStatus::Mismatch:
-        return QStringLiteral("Uyuşmuyor: ") + reason;
-    case EsmmStatus::Unreadable:
-        return QStringLiteral("Okunamadı: ") + reason;
-    case EsmmStatus::Foreign:
-        return QStringLiteral("Döviz: ") + reason;
-    case EsmmStatus::Posted:
-        break;
-    }
-    return newCard.isEmpty() ? QStringLiteral("Aktarıldı") : QStringLiteral("Aktarıldı (yeni cari %1)").arg(newCard);
+    if (!reason.isEmpty())
+        return EsmmStatusName(status) + QStringLiteral(": ") + reason;
+    if (status == EsmmStatus::Posted && !newCard.isEmpty())
+        return QStringLiteral("Aktarıldı (yeni cari %1)").arg(newCard);
+    return EsmmStatusName(status);
 }
 
 void EsmmImport::read(const QStringList &paths)
@@ -150,7 +153,6 @@ void EsmmImport::read(const QStringList &paths)
         }
         m_rows.push_back(std::move(row));
     });
-    recount();
 }
 
 void EsmmImport::check(EsmmRow &row)
@@ -182,28 +184,26 @@ bool EsmmImport::post(QString *why)
         return false;
     }
     PayerCards cards;
-    std::vector<size_t> posted;
-    for (size_t i = 0; i < m_rows.size(); ++i) {
-        if (m_rows[i].status != EsmmStatus::New)
-            continue;
-        if (!postRow(m_rows[i], cards)) {
-            db.run(QStringLiteral("ROLLBACK"));
-            for (size_t each : posted)
-                m_rows[each].newCard.clear();
-            *why = QStringLiteral("%1 kaydedilemedi; hiçbir belge aktarılmadı.").arg(m_rows[i].document.makbuzNo);
-            return false;
+    QString failure;
+    for (EsmmRow &row : m_rows)
+        if (row.status == EsmmStatus::New && !postRow(row, cards)) {
+            failure = QStringLiteral("%1 kaydedilemedi; hiçbir belge aktarılmadı.").arg(row.document.makbuzNo);
+            break;
         }
-        posted.push_back(i);
-    }
-    if (!db.run(QStringLiteral("COMMIT"))) {
+    if (failure.isEmpty() && !db.run(QStringLiteral("COMMIT")))
+        failure = QStringLiteral("Aktarım tamamlanamadı; hiçbir belge aktarılmadı.");
+    if (!failure.isEmpty())
         db.run(QStringLiteral("ROLLBACK"));
-        *why = QStringLiteral("Aktarım tamamlanamadı; hiçbir belge aktarılmadı.");
-        return false;
-    }
-    for (size_t each : posted)
-        m_rows[each].status = EsmmStatus::Posted;
-    recount();
-    return true;
+    // Every new row was posted, or none was (and no card made for one of them stands).
+    for (EsmmRow &row : m_rows)
+        if (row.status == EsmmStatus::New) {
+            if (failure.isEmpty())
+                row.status = EsmmStatus::Posted;
+            else
+                row.newCard.clear();
+        }
+    *why = failure;
+    return failure.isEmpty();
 }
 
 // The postings of the receipt screen: the payer owes the amount due; the ledger takes the gross,
@@ -218,8 +218,8 @@ bool EsmmImport::postRow(EsmmRow &row, PayerCards &cards)
     if (made)
         row.newCard = code;
     const QString evrak = d.makbuzNo.right(8); // the running number within the year
-    const Currency payable = PayableTotal(d.gross - d.stopaj, d.kdv, d.withheld);
-    const qint64 account = AddAccountPosting({ code, d.date, 2, evrak, FirstCharacters(d.firstLine, 40), 0, payable });
+    const qint64 account
+        = AddAccountPosting({ code, d.date, 2, evrak, FirstCharacters(d.firstLine, 40), 0, AmountDue(d) });
     const qint64 ledger = account > 0 ? AddLedgerPosting({ 0, d.date, 0, evrak, code, FirstCharacters(d.payerName, 40),
                               d.gross, d.stopaj, Currency(), d.kdv })
                                       : 0;
@@ -234,20 +234,17 @@ bool EsmmImport::postRow(EsmmRow &row, PayerCards &cards)
     return ledger > 0 && AddReceiptRecord(ledger, account, record);
 }
 
-void EsmmImport::recount()
+int EsmmImport::count(EsmmStatus status) const
 {
-    m_counts = {};
-    for (const EsmmRow &row : m_rows)
-        ++m_counts[size_t(row.status)];
+    return int(
+        std::count_if(m_rows.begin(), m_rows.end(), [status](const EsmmRow &row) { return row.status == status; }));
 }
 
 QString EsmmImport::summary() const
 {
-    static const char16_t *const names[EsmmStatusCount]
-        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Aktarıldı" };
     QStringList parts;
     for (int s = 0; s < EsmmStatusCount; ++s)
-        if (m_counts[size_t(s)] > 0)
-            parts << QStringLiteral("%1 %2").arg(m_counts[size_t(s)]).arg(QString::fromUtf16(names[s]));
+        if (const int n = count(EsmmStatus(s)); n > 0)
+            parts << QStringLiteral("%1 %2").arg(n).arg(EsmmStatusName(EsmmStatus(s)));
     return parts.isEmpty() ? QStringLiteral("Belge bulunamadı") : parts.join(QStringLiteral(", "));
 }

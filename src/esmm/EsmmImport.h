@@ -5,7 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <array>
 #include <vector>
 
 class PayerCards;
@@ -20,6 +19,13 @@ enum class EsmmStatus {
     Posted, // "Aktarıldı": posted by this run
 };
 constexpr int EsmmStatusCount = 6;
+
+// The status's name: "Yeni", "Kayıtlı", "Uyuşmuyor", "Okunamadı", "Döviz", "Aktarıldı".
+QString EsmmStatusName(EsmmStatus status);
+
+// What the payer owes on the document, as the receipt screen computes a receipt's total: the net
+// fee (gross less withholding, no fund) with the VAT, less the VAT the payer withholds.
+Currency AmountDue(const EsmmDocument &document);
 
 struct EsmmRow
 {
@@ -45,15 +51,13 @@ public:
     bool post(QString *why);
 
     const std::vector<EsmmRow> &rows() const { return m_rows; }
-    int count(EsmmStatus status) const { return m_counts[size_t(status)]; }
+    int count(EsmmStatus status) const;
     // "3 Yeni, 1 Kayıtlı, …": the statuses that occur, in their order.
     QString summary() const;
 
 private:
     void check(EsmmRow &row);
     bool postRow(EsmmRow &row, PayerCards &cards);
-    void recount();
 
     std::vector<EsmmRow> m_rows;
-    std::array<int, EsmmStatusCount> m_counts {};
 };

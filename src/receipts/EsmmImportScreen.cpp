@@ -3,7 +3,6 @@
 #include "books/Message.h"
 #include "controls/DcList.h"
 #include "controls/ValueLabel.h"
-#include "money/ReceiptCalculation.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -94,7 +93,7 @@ void EsmmImportScreen::showRows()
         const auto amount = [](Currency value) { return QVariant::fromValue(value); };
         addRow({ d.date.isValid() ? QVariant(d.date) : QVariant(QString()), d.makbuzNo,
             d.payerName.isEmpty() ? row.origin : d.payerName, amount(d.gross), amount(d.stopaj), amount(d.kdv),
-            amount(d.withheld), amount(PayableTotal(d.gross - d.stopaj, d.kdv, d.withheld)), row.statusText() });
+            amount(d.withheld), amount(AmountDue(d)), row.statusText() });
     }
     m_counts->setValue(m_import.summary());
 }

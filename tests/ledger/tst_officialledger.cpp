@@ -316,12 +316,16 @@ void TestOfficialLedger::onePageBooks()
     const QByteArray printed = m_spooler->receive([this] { m_screen->print(); });
     const int text = withheld != 0 ? 29 : 42;
     QList<int> widths;
-    for (const QString &head : std::as_const(heads))
+    QStringList headTexts;
+    for (const QString &head : std::as_const(heads)) {
+        headTexts << head.section(u':', 0, 0);
         widths << head.section(u':', 1).toInt();
+    }
     ExpectedRawPage page;
-    const auto amountLine = [&page, &widths](const QStringList &texts, bool bold) {
+    // The amount columns' part of a line: the texts in their widths, blanks between, then the end.
+    const auto amountLine = [&page, &widths](const QStringList &texts, int align, bool bold) {
         for (int c = 0; c < widths.size(); ++c) {
-            page.field(texts[c], widths[c], 1, bold);
+            page.field(texts[c], widths[c], align, bold);
             c + 1 < widths.size() ? page.gap() : page.endLine();
         }
     };
@@ -340,17 +344,14 @@ void TestOfficialLedger::onePageBooks()
     page.field(QStringLiteral(" "), 1).endLine().field(QStringLiteral(" "), 1).endLine();
     page.field(QStringLiteral("Sıra"), 4).gap().field(QStringLiteral("Tarih"), 12).gap();
     page.field(QStringLiteral("Evrak"), 10).gap().field(QStringLiteral("Açıklama"), text).gap();
-    for (int c = 0; c < heads.size(); ++c) {
-        page.field(heads[c].section(u':', 0, 0), widths[c]);
-        c + 1 < heads.size() ? page.gap() : page.endLine();
-    }
+    amountLine(headTexts, 0, false);
     rule();
     page.field(QStringLiteral("1"), 4, 1).gap().field(QStringLiteral("02.03.2026"), 12).gap();
     page.field(QStringLiteral("F7"), 10).gap().field(QStringLiteral("Kırtasiye"), text).gap();
-    amountLine(amounts, false);
+    amountLine(amounts, 1, false);
     rule();
     page.bold(QStringLiteral("T O P L A M :"), 4 + 12 + 10 + text + 3, 1).gap();
-    amountLine(amounts, true);
+    amountLine(amounts, 1, true);
     page.endPage(linesPerPage);
     const QString difference = FirstDifference(printed, page.bytes());
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
