@@ -14,11 +14,11 @@ std::unique_ptr<QueryCursor> QueryCursor::open(Database &db, const QString &sql,
     for (int i = 0; i < columns; ++i)
         fields.push_back(FieldDef::fromDeclaredType(query.columnName(i), query.declaredType(i), false));
     cursor->setFields(std::move(fields));
+    cursor->m_width = size_t(columns);
     while (query.next()) {
-        std::vector<QVariant> row(static_cast<size_t>(columns));
         for (int i = 0; i < columns; ++i)
-            row[size_t(i)] = query.column(i);
-        cursor->m_rows.push_back(std::move(row));
+            cursor->m_cells.push_back(query.column(i));
+        ++cursor->m_count;
     }
     if (!query.done())
         return nullptr;
@@ -28,20 +28,20 @@ std::unique_ptr<QueryCursor> QueryCursor::open(Database &db, const QString &sql,
 
 bool QueryCursor::moveTo(qsizetype row)
 {
-    m_current = qBound(qsizetype(-1), row, qsizetype(m_rows.size()));
-    m_bof = m_current < 0 || m_rows.empty();
-    m_eof = m_current >= qsizetype(m_rows.size()) || m_rows.empty();
+    m_current = qBound(qsizetype(-1), row, m_count);
+    m_bof = m_current < 0 || m_count == 0;
+    m_eof = m_current >= m_count || m_count == 0;
     return true;
 }
 
 bool QueryCursor::moveFirst()
 {
-    return !m_rows.empty() && moveTo(0);
+    return m_count > 0 && moveTo(0);
 }
 
 bool QueryCursor::moveLast()
 {
-    return !m_rows.empty() && moveTo(qsizetype(m_rows.size()) - 1);
+    return m_count > 0 && moveTo(m_count - 1);
 }
 
 bool QueryCursor::moveNext()
@@ -56,8 +56,8 @@ bool QueryCursor::movePrevious()
 
 bool QueryCursor::currentStored(int fieldIndex, QVariant *stored) const
 {
-    if (m_current < 0 || m_current >= qsizetype(m_rows.size()))
+    if (m_current < 0 || m_current >= m_count)
         return false;
-    *stored = m_rows[size_t(m_current)][size_t(fieldIndex)];
+    *stored = m_cells[size_t(m_current) * m_width + size_t(fieldIndex)];
     return true;
 }

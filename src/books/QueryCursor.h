@@ -18,7 +18,7 @@ public:
     bool moveLast() override;
     bool moveNext() override;
     bool movePrevious() override;
-    qint64 count() override { return qint64(m_rows.size()); }
+    qint64 count() override { return m_count; }
 
     bool seek(const QString &, const QVariant &) override { return false; }
     bool edit() override { return false; }
@@ -34,6 +34,8 @@ private:
     QueryCursor() = default;
     bool moveTo(qsizetype row);
 
-    std::vector<std::vector<QVariant>> m_rows;
+    std::vector<QVariant> m_cells; // row after row, m_width cells each
+    size_t m_width = 0;
+    qsizetype m_count = 0;
     qsizetype m_current = -1;
 };

@@ -10,7 +10,9 @@ void Recordset::setFields(std::vector<FieldDef> fields)
 
 int Recordset::fieldIndex(const QString &name) const
 {
-    return m_byName.value(name.toLower(), -1);
+    // Callers mostly spell field names in lower case already: no lower-cased copy for those.
+    const auto found = m_byName.constFind(name);
+    return found != m_byName.cend() ? found.value() : m_byName.value(name.toLower(), -1);
 }
 
 bool Recordset::read(const QString &fieldName, QVariant *value) const
