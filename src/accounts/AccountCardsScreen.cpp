@@ -121,7 +121,7 @@ AccountCardsScreen::AccountCardsScreen(QWidget *parent)
     auto *typeRow = new QHBoxLayout;
     typeRow->addWidget(m_fields[typeField]);
     m_type->setObjectName(QStringLiteral("cariTip"));
-    m_type->setMinimumWidth(80);
+    m_type->setLeastWidth(80);
     typeRow->addWidget(m_type);
     typeRow->addWidget(new QLabel(QStringLiteral("(0:Müşteri 1:Personel 2:Diğer)"), this));
     typeRow->addStretch();

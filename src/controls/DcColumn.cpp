@@ -35,7 +35,7 @@ QString DcColumn::display(const QString &value) const
 
 Qt::Alignment DcColumn::alignment() const
 {
-    if (isNumber())
+    if (isFigure())
         return Qt::AlignRight | Qt::AlignVCenter;
     if (kind() == u's')
         return Qt::AlignCenter;

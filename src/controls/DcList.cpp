@@ -5,6 +5,7 @@
 #include "controls/DcCellEditor.h"
 #include "controls/DcListModel.h"
 #include "controls/EntryRules.h"
+#include "controls/FigureDelegate.h"
 #include "controls/QuickFont.h"
 #include "controls/SpreadsheetExport.h"
 #include "money/AmountConventions.h"
@@ -45,6 +46,16 @@ DcList::DcList(QWidget *parent)
     , m_editor(new DcCellEditor(m_view->viewport()))
 {
     m_view->setModel(m_model);
+    auto *figures = new FigureDelegate(m_model, m_view);
+    m_view->setItemDelegate(figures);
+    // Widened after the paint that found the figure too wide; the view then paints it again.
+    connect(
+        figures, &FigureDelegate::columnTooNarrow, this,
+        [this](int column, int width) {
+            if (m_view->columnWidth(column) < width)
+                m_view->setColumnWidth(column, width);
+        },
+        Qt::QueuedConnection);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -117,6 +128,12 @@ void DcList::setBaslik(int col, const QString &caption)
         return;
     m_model->column(col).caption = caption;
     emit m_model->headerDataChanged(Qt::Horizontal, col, col);
+}
+
+void DcList::AlignRight(int col)
+{
+    if (col >= 0 && col < m_model->columnCount())
+        m_model->column(col).right = true;
 }
 
 int DcList::Size(int col) const

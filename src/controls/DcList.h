@@ -28,6 +28,8 @@ public:
     QString Baslik(int col) const;
     void setBaslik(int col, const QString &caption);
     int Size(int col) const;
+    // A text column shown right-aligned (and whole, as numbers are).
+    void AlignRight(int col);
     QString SectionName(int col) const;
     void setSectionName(int col, const QString &name);
     double MaxValue(int col) const;

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QEventLoop>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPointer>
@@ -60,6 +61,9 @@ void OpenInMain(QWidget *screen, int mode)
         window = area->addSubWindow(screen);
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->setWindowIcon(area->window()->windowIcon());
+        // The window is never smaller than what its screen needs: a value that grows (a large
+        // amount) widens it instead of being cut.
+        window->layout()->setSizeConstraint(QLayout::SetMinimumSize);
     }
     window->show();
     screen->show();

@@ -12,9 +12,13 @@ void DefineReportColumns(DcList &list, const ReportColumns &columns)
             continue;
         const QString caption = column.listCaption();
         switch (column.kind) {
-        case CellKind::Text:
-            list.Add(QStringLiteral("a"), column.name, caption, column.pixels, column.width, 0, 0, 0);
+        case CellKind::Text: {
+            const QVariant added
+                = list.Add(QStringLiteral("a"), column.name, caption, column.pixels, column.width, 0, 0, 0);
+            if (column.align == 1)
+                list.AlignRight(added.toInt());
             break;
+        }
         case CellKind::Date:
             list.Add(QStringLiteral("t"), column.name, caption, column.pixels, 10, 0, 0, 0);
             break;

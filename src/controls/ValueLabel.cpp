@@ -43,11 +43,26 @@ ValueLabel::ValueLabel(const QString &meaning, QWidget *parent)
     setAccessibleName(QString());
 }
 
-void ValueLabel::showAsAmount(int minimumWidth)
+void ValueLabel::showAsAmount(int leastWidth)
 {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setFrameShape(QFrame::StyledPanel);
-    setMinimumWidth(minimumWidth);
+    setLeastWidth(leastWidth);
+}
+
+void ValueLabel::setLeastWidth(int width)
+{
+    m_leastWidth = width;
+    updateGeometry();
+}
+
+// Never narrower than the value it shows (a minimum width set on the label would let the layout
+// squeeze the value below its own width).
+QSize ValueLabel::minimumSizeHint() const
+{
+    QSize least = QLabel::minimumSizeHint();
+    least.setWidth(qMax(least.width(), m_leastWidth));
+    return least;
 }
 
 void ValueLabel::setValue(const QString &text)

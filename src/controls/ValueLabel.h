@@ -12,7 +12,14 @@ public:
     ValueLabel(const QString &meaning, QWidget *parent);
 
     void setValue(const QString &text);
+    // At least this wide, and always as wide as the value it shows.
+    void setLeastWidth(int width);
     // The look of an amount: right-aligned in a frame of at least this width.
-    void showAsAmount(int minimumWidth);
+    void showAsAmount(int leastWidth);
     QString value() const { return text(); }
+
+    QSize minimumSizeHint() const override;
+
+private:
+    int m_leastWidth = 0;
 };

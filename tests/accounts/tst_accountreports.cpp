@@ -233,13 +233,16 @@ QByteArray TestAccountReports::printRaw()
 }
 
 // Three rows at the largest amount a cell takes: that account and the totals show "Taşma", the
-// other accounts stand.
+// other accounts stand. One such row alone is shown whole, in both lists.
 void TestAccountReports::sumBeyondTheMoneyTypeShowsOverflow()
 {
+    const Currency largest = Currency::fromString(QStringLiteral("922337203685476"));
     QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk")));
+    QVERIFY(AddCard(QStringLiteral("K2"), QStringLiteral("Deniz Kaya")));
     QVERIFY(AddCard(QStringLiteral("X1"), QStringLiteral("Ağaoğlu")));
     for (int n = 0; n < 3; ++n)
-        QVERIFY(AddTransaction(QStringLiteral("K1"), 2, 0, Currency::fromString(QStringLiteral("922337203685476"))));
+        QVERIFY(AddTransaction(QStringLiteral("K1"), 2, 0, largest));
+    QVERIFY(AddTransaction(QStringLiteral("K2"), 2, 0, largest));
     QVERIFY(AddTransaction(QStringLiteral("X1"), 2, 0, lira(500)));
     auto *screen = open<DebitCreditScreen>("mnugbor", "Form10");
     QVERIFY(screen);
@@ -247,7 +250,17 @@ void TestAccountReports::sumBeyondTheMoneyTypeShowsOverflow()
     QVERIFY(m_kit->messages().entries().isEmpty());
     QCOMPARE(shownRows(screen->listWindow()->list()),
         QStringList(
-            { "K1|Kaya Hukuk|Taşma||Taşma|Taşma", "X1|Ağaoğlu|500.00||500.00|", "|T O P L A M|Taşma||Taşma|Taşma" }));
+            { "K1|Kaya Hukuk|Taşma||Taşma|Taşma", "K2|Deniz Kaya|922,337,203,685,476.00||922,337,203,685,476.00|",
+                "X1|Ağaoğlu|500.00||500.00|", "|T O P L A M|Taşma||Taşma|Taşma" }));
+    QCOMPARE(CutFigures(screen->listWindow()->list()), QStringList());
+
+    auto *statement = open<AccountStatementScreen>("mnucareks", "Form16");
+    TypeIntoField(field(0), QStringLiteral("K2"));
+    TypeIntoField(field(1), QStringLiteral("K2"));
+    statement->listOnScreen();
+    QCOMPARE(shownRows(statement->listWindow()->list()).mid(1, 1),
+        QStringList({ "16.11.2026|2-SMM|||922,337,203,685,476.00||922,337,203,685,476.00 B" }));
+    QCOMPARE(CutFigures(statement->listWindow()->list()), QStringList());
 }
 
 void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter_data()

@@ -103,7 +103,8 @@ void TestMainWindow::splashGivesWayToTheMainWindow()
     QTRY_VERIFY(!start.splash());
 }
 
-// Every screen's value labels, empty or not, read as what they show (and say what they are).
+// Every screen's value labels, empty or not, read as what they show (and say what they are), and
+// show it whole.
 void TestMainWindow::valueLabelsReadAsTheyShow()
 {
     ScreenFixture kit;
@@ -120,6 +121,14 @@ void TestMainWindow::valueLabelsReadAsTheyShow()
         QCOMPARE(read->text(QAccessible::Name), label->text());
         QVERIFY(!read->text(QAccessible::Description).isEmpty());
     }
+    // The widest amount a label may show is shown whole on every screen.
+    const QString widest = QStringLiteral("-922,337,203,685,477.58 B");
+    for (ValueLabel *label : labels)
+        label->setValue(widest);
+    QTest::qWait(200);
+    for (ValueLabel *label : labels)
+        QVERIFY2(label->contentsRect().width() >= label->fontMetrics().horizontalAdvance(widest),
+            qPrintable(label->accessibleDescription()));
 }
 
 void TestMainWindow::screenOutlivesItsPrinterDialog_data()

@@ -72,3 +72,22 @@ void TypeGridRow(DcList *list, const QStringList &cells)
         QTest::keyClick(list->editor(), Qt::Key_Return);
     }
 }
+
+QStringList CutFigures(DcList *list)
+{
+    QTableView *view = list->view();
+    view->grab(); // painted as a person sees it; a painted cell may ask for a wider column
+    QCoreApplication::processEvents();
+    const QFontMetrics metrics(view->font());
+    const int margins = 2 * (view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1);
+    static const QRegularExpression figure(QStringLiteral("^-?[0-9.,]+( [AB])?$"));
+    QStringList cut;
+    for (int row = 0; row < list->ListCount(); ++row)
+        for (int column = 0; column < view->model()->columnCount(); ++column) {
+            const QModelIndex index = view->model()->index(row, column);
+            const QString text = index.data().toString();
+            if (figure.match(text).hasMatch() && metrics.horizontalAdvance(text) + margins > view->columnWidth(column))
+                cut << QStringLiteral("%1,%2: %3").arg(row).arg(column).arg(text);
+        }
+    return cut;
+}

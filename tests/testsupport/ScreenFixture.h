@@ -50,3 +50,6 @@ void TypeIntoField(XText *field, const QString &keys);
 // Types a grid row as a person does: Enter on the list opens the editor, then every cell's keys
 // each followed by Enter.
 void TypeGridRow(DcList *list, const QStringList &cells);
+// The cells of a grid that show a figure (an amount, a number, a balance with its side) and that
+// their columns cut once the grid is painted: "row,column: text" each; empty when none is cut.
+QStringList CutFigures(DcList *list);
