@@ -106,7 +106,9 @@ void AccountStatementScreen::listOnScreen()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     ListWindow *window
         = ShowListWindow(m_listWindow, QStringLiteral("Form16Liste"), QStringLiteral("Cari Hareket Dökümü"), columns());
-    walk([window](Line, const QVariantList &cells) { window->addRow(cells); });
+    std::vector<QVariantList> lines;
+    walk([&lines](Line, const QVariantList &cells) { lines.push_back(cells); });
+    window->addRows(lines);
     QApplication::restoreOverrideCursor();
 }
 

@@ -70,19 +70,20 @@ void DebitCreditScreen::listOnScreen()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     ListWindow *window = ShowListWindow(
         m_listWindow, QStringLiteral("Form11"), QStringLiteral("Genel Borç Alacak Listesi"), columns());
+    std::vector<QVariantList> rows;
     QVariantList total = { QString(), QStringLiteral("T O P L A M") }; // then the four amounts' sums
     Currency sums[4];
     for (const Account &account : accounts()) {
         if (!account.listed)
             continue;
-        const QVariantList cells = account.cells();
-        window->addRow(cells);
+        rows.push_back(account.cells());
         for (int c = 0; c < 4; ++c)
-            sums[c] += cells[2 + c].value<Currency>();
+            sums[c] += rows.back()[2 + c].value<Currency>();
     }
     for (const Currency &sum : sums)
         total << QVariant::fromValue(sum);
-    window->addRow(total);
+    rows.push_back(total);
+    window->addRows(rows);
     QApplication::restoreOverrideCursor();
 }
 

@@ -33,8 +33,7 @@ QString ExactNumberText(const QString &text)
         return QStringLiteral("0");
     if (whole.isEmpty())
         whole = QStringLiteral("0");
-    return (negative ? QStringLiteral("-") : QString()) + whole
-        + (fraction.isEmpty() ? QString() : u'.' + fraction);
+    return (negative ? QStringLiteral("-") : QString()) + whole + (fraction.isEmpty() ? QString() : u'.' + fraction);
 }
 
 bool TypeIntoNumber(QString &entry, QChar c, double maximum, int decimals, bool pointTaken)

@@ -42,9 +42,9 @@ void ListWindow::setColumns(const ReportColumns &columns)
     fitToColumns();
 }
 
-bool ListWindow::addRow(const QVariantList &cells)
+bool ListWindow::addRows(const std::vector<QVariantList> &rows)
 {
-    return AddReportRow(*m_list, m_columns, cells);
+    return AddReportRows(*m_list, m_columns, rows);
 }
 
 ListWindow *ShowListWindow(

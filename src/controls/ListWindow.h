@@ -18,8 +18,10 @@ public:
     DcList *list() const { return m_list; }
     // Empties the list and takes the declaration's columns, with room for all of them.
     void setColumns(const ReportColumns &columns);
-    // A row of typed cells, one per declared column; false when the grid is full.
-    bool addRow(const QVariantList &cells);
+    // Rows of typed cells, one per declared column, at once; false when the grid could not take
+    // them all.
+    bool addRows(const std::vector<QVariantList> &rows);
+    bool addRow(const QVariantList &cells) { return addRows({ cells }); }
     // After the columns are defined: room for all of them.
     void fitToColumns();
 

@@ -32,12 +32,17 @@ void DefineReportColumns(DcList &list, const ReportColumns &columns)
     }
 }
 
-bool AddReportRow(DcList &list, const ReportColumns &columns, const QVariantList &cells)
+bool AddReportRows(DcList &list, const ReportColumns &columns, const std::vector<QVariantList> &rows)
 {
-    QStringList shown;
-    shown.reserve(int(columns.size()));
-    for (size_t c = 0; c < columns.size(); ++c)
-        if (columns[c].listed())
-            shown << GridCellText(cells.value(int(c)));
-    return list.AddCaptions(shown) >= 0;
+    std::vector<QStringList> shown;
+    shown.reserve(rows.size());
+    for (const QVariantList &cells : rows) {
+        QStringList texts;
+        texts.reserve(int(columns.size()));
+        for (size_t c = 0; c < columns.size(); ++c)
+            if (columns[c].listed())
+                texts << GridCellText(cells.value(int(c)));
+        shown.push_back(std::move(texts));
+    }
+    return list.AddCaptionRows(std::move(shown)) == int(rows.size());
 }

@@ -57,8 +57,12 @@ void OfficialLedgerList::addRow(
     QVariantList cells = { sira, date.isValid() ? QVariant(date) : QVariant(QString()), evrak, ack,
         QVariant::fromValue(amounts.brut), QVariant::fromValue(amounts.stopaj), QVariant::fromValue(amounts.fon),
         QVariant::fromValue(amounts.kdv), QVariant::fromValue(amounts.tevkifat), QVariant::fromValue(total) };
-    ListWindow::addRow(cells); // the printout takes every row, also those beyond a full list
     m_rows.push_back(std::move(cells));
+}
+
+void OfficialLedgerList::listRows()
+{
+    addRows(m_rows); // the printout takes every row, also those beyond a full list
 }
 
 void OfficialLedgerList::yazdir(int kind, int side)

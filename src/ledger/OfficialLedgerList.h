@@ -23,8 +23,10 @@ public:
     // those columns; withheldVat: whether the book has VAT withheld by payers (its column is
     // then listed and printed).
     void showBook(int side, bool withholding, bool fund, bool withheldVat);
-    // A numbered row (number 0 and no date: the row that carries in the sums before the range).
+    // A numbered row found (number 0 and no date: the row that carries in the sums before the
+    // range); listRows() shows the rows found.
     void addRow(int sira, QDate date, const QString &evrak, const QString &ack, const LedgerAmounts &amounts);
+    void listRows();
     // Prints the rows found (all of them, also beyond a full list) with the print engine kind
     // (Prnx::Graphic or Prnx::Raw).
     void yazdir(int kind, int side);

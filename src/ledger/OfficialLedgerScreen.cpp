@@ -163,6 +163,7 @@ void OfficialLedgerScreen::fill(int kind)
             carried += amounts;
         }
     }
+    m_listScreen->listRows();
     QApplication::restoreOverrideCursor();
     if (kind != 0)
         m_listScreen->yazdir(kind, side);

@@ -133,12 +133,12 @@ void WithholdingListScreen::load(const QString &sql, const QVariantList &values)
                 FieldRead(*rows, QStringLiteral("verda")).toString(), QStringLiteral("SMK"),
                 FieldRead(*rows, QStringLiteral("donem")).toDate(), QVariant::fromValue(brut),
                 QVariant::fromValue(vergi) };
-            AddReportRow(*m_list, columns(), cells); // the printout and the totals take every row
             m_rows.push_back(std::move(cells));
             gross += brut;
             tax += vergi;
         }
     }
+    AddReportRows(*m_list, columns(), m_rows); // the printout and the totals take every row
     m_totalGross->setValue(FormatAmount(gross));
     m_totalTax->setValue(FormatAmount(tax));
     QApplication::restoreOverrideCursor();

@@ -77,22 +77,10 @@ QString grouped(const QString &digits, long groupSize, QChar separator)
     return result;
 }
 
-} // namespace
-
-QString FormatAmount(const QString &amountText, long groupSize)
+// The text of a number already rounded to its decimals.
+QString composed(DecimalText number, int decimals, long groupSize)
 {
-    return FormatNumber(amountText, amountConventions().tlonda, groupSize);
-}
-
-QString FormatNumber(const QString &numberText, int decimals, long groupSize)
-{
-    DecimalText number = readDecimal(numberText);
-    if (allZero(number.whole) && allZero(number.fraction))
-        return QString();
-
     const AmountConventions &conventions = amountConventions();
-    decimals = qBound(0, decimals, 9);
-    roundTo(number, decimals);
     while (number.whole.size() > 1 && number.whole.startsWith(u'0'))
         number.whole.remove(0, 1);
     if (number.whole == u"0" && decimals > 0)
@@ -107,9 +95,59 @@ QString FormatNumber(const QString &numberText, int decimals, long groupSize)
     return number.negative && !showsZero ? u'-' + text : text;
 }
 
+// An amount's digits rounded to the decimals as roundTo does, read from its integer instead of
+// its text (lists format thousands of amounts).
+DecimalText roundedDigits(Currency amount, int decimals)
+{
+    const qint64 raw = amount.raw();
+    const quint64 magnitude = raw < 0 ? 0 - quint64(raw) : quint64(raw);
+    quint64 whole = magnitude / Currency::Scale;
+    quint64 fraction = magnitude % Currency::Scale; // four decimals
+    quint64 unit = 1;
+    for (int d = 0; d < decimals; ++d)
+        unit *= 10;
+    if (decimals < 4) {
+        const quint64 step = quint64(Currency::Scale) / unit;
+        const bool up = fraction % step >= step / 2;
+        fraction = fraction / step + (up ? 1 : 0);
+        if (fraction == unit) {
+            fraction = 0;
+            ++whole;
+        }
+    } else {
+        fraction *= unit / quint64(Currency::Scale);
+    }
+    DecimalText digits;
+    digits.negative = raw < 0;
+    digits.whole = QString::number(whole);
+    if (decimals > 0)
+        digits.fraction = QString::number(fraction).rightJustified(decimals, u'0');
+    return digits;
+}
+
+} // namespace
+
+QString FormatAmount(const QString &amountText, long groupSize)
+{
+    return FormatNumber(amountText, amountConventions().tlonda, groupSize);
+}
+
+QString FormatNumber(const QString &numberText, int decimals, long groupSize)
+{
+    DecimalText number = readDecimal(numberText);
+    if (allZero(number.whole) && allZero(number.fraction))
+        return QString();
+    decimals = qBound(0, decimals, 9);
+    roundTo(number, decimals);
+    return composed(std::move(number), decimals, groupSize);
+}
+
 QString FormatAmount(Currency amount, long groupSize)
 {
     if (!amount.isValid())
         return amount.toString();
-    return FormatAmount(amount.toString(), groupSize);
+    if (amount == Currency())
+        return QString();
+    const int decimals = qBound(0, amountConventions().tlonda, 9);
+    return composed(roundedDigits(amount, decimals), decimals, groupSize);
 }
