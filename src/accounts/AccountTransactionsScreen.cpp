@@ -9,6 +9,7 @@
 #include "books/Message.h"
 #include "books/TurkishText.h"
 #include "controls/DcList.h"
+#include "controls/DcListModel.h"
 #include "controls/ValueLabel.h"
 #include "controls/XText.h"
 #include "money/AmountConventions.h"
@@ -154,18 +155,20 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
             QStringLiteral("SELECT * FROM carhar WHERE %1 ORDER BY tarih, islem, ba, oto")
                 .arg(AnySpelling(QStringLiteral("kod"), QStringLiteral("?1"))),
             { code })) {
-        for (; !RsEof(*rows); RsNext(*rows)) {
-            const int row = grid->CreateNewCaption();
-            if (row < 0)
-                break;
-            grid->setCaption(row, Tarih, FormatDate(FieldRead(*rows, QStringLiteral("tarih")).toDate()));
-            grid->setCaption(row, Evrak, FieldRead(*rows, QStringLiteral("evrak")).toString());
-            grid->setCaption(row, Ack, FieldRead(*rows, QStringLiteral("ack")).toString());
-            grid->setCaption(row, Islem, TransactionTypeLabel(FieldRead(*rows, QStringLiteral("islem")).toInt()));
-            grid->setCaption(row, Ba, FieldRead(*rows, QStringLiteral("ba")).toInt() == 0 ? u"B"_qs : u"A"_qs);
-            grid->setCaption(row, Tutar, FieldRead(*rows, QStringLiteral("tutar")).value<Currency>().toString());
-            grid->setCaption(row, Oto, FieldRead(*rows, QStringLiteral("oto")).toString());
+        // One row past the room makes the list say that it was cut.
+        std::vector<QStringList> found;
+        for (; !RsEof(*rows) && int(found.size()) <= DcListModel::MaxRows; RsNext(*rows)) {
+            QStringList cells(Oto + 1);
+            cells[Tarih] = FormatDate(FieldRead(*rows, QStringLiteral("tarih")).toDate());
+            cells[Evrak] = FieldRead(*rows, QStringLiteral("evrak")).toString();
+            cells[Ack] = FieldRead(*rows, QStringLiteral("ack")).toString();
+            cells[Islem] = TransactionTypeLabel(FieldRead(*rows, QStringLiteral("islem")).toInt());
+            cells[Ba] = FieldRead(*rows, QStringLiteral("ba")).toInt() == 0 ? u"B"_qs : u"A"_qs;
+            cells[Tutar] = FieldRead(*rows, QStringLiteral("tutar")).value<Currency>().toString();
+            cells[Oto] = FieldRead(*rows, QStringLiteral("oto")).toString();
+            found.push_back(std::move(cells));
         }
+        grid->AddCaptionRows(std::move(found));
     }
     recompute(0); // the empty row for a new entry gets its balance with the first change
     endListing();
@@ -181,6 +184,7 @@ void AccountTransactionsScreen::recompute(int fromRow)
     fromRow = qBound(0, fromRow, int(m_running.size()));
     m_running.resize(size_t(grid->ListCount()));
     Sums sums = fromRow > 0 ? m_running[size_t(fromRow - 1)] : Sums();
+    QStringList balances;
     for (int row = fromRow; row < grid->ListCount(); ++row) {
         const bool deposit = typeCode(grid->Caption(row, Islem)) == 3;
         const Currency amount = amountAt(row, Tutar);
@@ -189,8 +193,9 @@ void AccountTransactionsScreen::recompute(int fromRow)
         else
             (deposit ? sums.creditDeposit : sums.creditOther) += amount;
         m_running[size_t(row)] = sums;
-        grid->setCaption(row, Bakiye, sums.balance().toString());
+        balances << sums.balance().toString();
     }
+    grid->setColumnCaptions(Bakiye, fromRow, balances);
     m_balance->showSums(sums.debitOther, sums.creditOther, sums.debitDeposit, sums.creditDeposit);
 }
 

@@ -239,6 +239,11 @@ void DcList::setCaption(int row, int col, const QString &value)
     m_model->setCell(row, col, value);
 }
 
+void DcList::setColumnCaptions(int col, int fromRow, const QStringList &values)
+{
+    m_model->setColumnFrom(col, fromRow, values);
+}
+
 QString DcList::CaptionByName(int row, const QString &name) const
 {
     return m_model->cell(row, m_model->columnByName(name));

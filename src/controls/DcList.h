@@ -48,6 +48,8 @@ public:
     int ListCount() const;
     QString Caption(int row, int col) const;
     void setCaption(int row, int col, const QString &value);
+    // The cells of a column from a row down, one per value, with one notice to the view.
+    void setColumnCaptions(int col, int fromRow, const QStringList &values);
     QString CaptionByName(int row, const QString &name) const;
     void setCaptionByName(int row, const QString &name, const QString &value);
     // The row edit buffer: the values of the row being edited.

@@ -162,6 +162,16 @@ void DcListModel::setRow(int row, const QStringList &values)
     emit dataChanged(index(row, 0), index(row, columnCount() - 1));
 }
 
+void DcListModel::setColumnFrom(int column, int fromRow, const QStringList &values)
+{
+    const int last = qMin(rowCount(), fromRow + int(values.size())) - 1;
+    if (column < 0 || column >= columnCount() || fromRow < 0 || last < fromRow)
+        return;
+    for (int row = fromRow; row <= last; ++row)
+        m_rows[size_t(row)][column] = values[row - fromRow];
+    emit dataChanged(index(fromRow, column), index(last, column));
+}
+
 void DcListModel::sortRows(int column, bool ascending)
 {
     if (column < 0 || column >= columnCount())

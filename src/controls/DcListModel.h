@@ -41,6 +41,8 @@ public:
     QString cell(int row, int column) const;
     void setCell(int row, int column, const QString &value);
     void setRow(int row, const QStringList &values);
+    // The cells of a column from a row down, one per value (as many as there are rows).
+    void setColumnFrom(int column, int fromRow, const QStringList &values);
     // Sorts the rows by a column (numbers as numbers, dates as dates, texts in Turkish order);
     // rows with equal values keep their order.
     void sortRows(int column, bool ascending);
