@@ -40,7 +40,7 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
                                        "ORDER BY c.kod COLLATE TR, c.tarih, c.islem, c.oto")
                             .arg(rangeCondition(values));
     std::unique_ptr<Recordset> rows;
-    if (!QueryOpen(*dataFiles().db, rows, sql, values))
+    if (!QueryWalk(*dataFiles().db, rows, sql, values))
         return;
     QString walked, lastSpelling;
     bool shown = false; // the walked account has a card of an admitted type

@@ -151,7 +151,7 @@ void AccountTransactionsScreen::listTransactions(const QString &code)
     m_listedCode = code;
     grid->Clear();
     std::unique_ptr<Recordset> rows;
-    if (QueryOpen(*dataFiles().db, rows,
+    if (QueryWalk(*dataFiles().db, rows,
             QStringLiteral("SELECT * FROM carhar WHERE %1 ORDER BY tarih, islem, ba, oto")
                 .arg(AnySpelling(QStringLiteral("kod"), QStringLiteral("?1"))),
             { code })) {

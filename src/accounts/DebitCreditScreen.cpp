@@ -31,7 +31,7 @@ std::vector<DebitCreditScreen::Account> DebitCreditScreen::accounts() const
                             .arg(rangeCondition(values), AnySpelling(QStringLiteral("k.kod"), QStringLiteral("s.kod")));
     std::vector<Account> found;
     std::unique_ptr<Recordset> rows;
-    if (!QueryOpen(*dataFiles().db, rows, sql, values))
+    if (!QueryWalk(*dataFiles().db, rows, sql, values))
         return found;
     for (; !RsEof(*rows); RsNext(*rows)) {
         Account account;

@@ -1,6 +1,7 @@
 #include "books/AccessLayer.h"
 
 #include "books/Backups.h"
+#include "books/ForwardCursor.h"
 #include "books/Message.h"
 #include "books/QueryCursor.h"
 #include "books/Statement.h"
@@ -115,15 +116,29 @@ bool RsEof(const Recordset &rs)
     return rs.eof();
 }
 
-bool QueryOpen(Database &db, std::unique_ptr<Recordset> &rs, const QString &sql, const QVariantList &values)
+namespace {
+
+// A query's cursor on its first row; without one, the query's message.
+bool opened(std::unique_ptr<Recordset> cursor, std::unique_ptr<Recordset> &rs)
 {
-    std::unique_ptr<QueryCursor> cursor = QueryCursor::open(db, sql, values);
     if (!cursor) {
         Message::exclamation(QStringLiteral("Sql Rapor Yaratılamıyor"));
         return false;
     }
     rs = std::move(cursor);
     return RsFirst(*rs);
+}
+
+} // namespace
+
+bool QueryOpen(Database &db, std::unique_ptr<Recordset> &rs, const QString &sql, const QVariantList &values)
+{
+    return opened(QueryCursor::open(db, sql, values), rs);
+}
+
+bool QueryWalk(Database &db, std::unique_ptr<Recordset> &rs, const QString &sql, const QVariantList &values)
+{
+    return opened(ForwardCursor::open(db, sql, values), rs);
 }
 
 bool SqlExecute(Database &db, const QString &sql, const QVariantList &values)

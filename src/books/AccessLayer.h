@@ -47,6 +47,9 @@ qint64 LastAddedKey(Database &db);
 // Opens the rows of a SELECT. False for no rows (silently) and for a statement the engine
 // refuses (after "Sql Rapor Yaratılamıyor").
 bool QueryOpen(Database &db, std::unique_ptr<Recordset> &rs, const QString &sql, const QVariantList &values = {});
+// The same for a listing that walks the rows once, first to last: each row is read as the walk
+// reaches it, the result is never held whole.
+bool QueryWalk(Database &db, std::unique_ptr<Recordset> &rs, const QString &sql, const QVariantList &values = {});
 bool SqlExecute(Database &db, const QString &sql, const QVariantList &values = {});
 
 bool TableCreate(Database &db, std::unique_ptr<TableDef> &table, const QString &name);

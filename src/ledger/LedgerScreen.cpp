@@ -125,7 +125,7 @@ void LedgerScreen::load()
     list()->Clear();
     const int year = Today().year();
     std::unique_ptr<Recordset> rows;
-    if (QueryOpen(*dataFiles().db, rows,
+    if (QueryWalk(*dataFiles().db, rows,
             QStringLiteral("SELECT * FROM defter WHERE islem = ?1 AND tarih >= ?2 AND tarih <= ?3 ORDER BY tarih, oto"),
             { m_book, DayNumber(QDate(year, 1, 1)), DayNumber(QDate(year, 12, 31)) }))
         FillGrid(*list(), *rows);

@@ -145,7 +145,7 @@ void OfficialLedgerScreen::fill(int kind)
     const qint64 lastNo = m_fields[LastNo]->Value().toLongLong();
     LedgerAmounts carried;
     bool listed = false;
-    if (QueryOpen(db, rows,
+    if (QueryWalk(db, rows,
             QStringLiteral("SELECT d.tarih, d.evrak, d.ack, d.brut, d.stopaj, d.fon, d.kdv, m.tevkifat "
                            "FROM defter d LEFT JOIN makbuz m ON m.defter = d.oto "
                            "WHERE d.islem = ?1 AND d.tarih >= ?2 AND d.tarih <= ?3 ORDER BY d.tarih, d.oto"),

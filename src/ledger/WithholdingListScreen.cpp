@@ -124,7 +124,7 @@ void WithholdingListScreen::load(const QString &sql, const QVariantList &values)
     m_rows.clear();
     Currency gross, tax;
     std::unique_ptr<Recordset> rows;
-    if (QueryOpen(*dataFiles().db, rows, sql, values)) {
+    if (QueryWalk(*dataFiles().db, rows, sql, values)) {
         for (; !RsEof(*rows); RsNext(*rows)) {
             const Currency brut = FieldRead(*rows, QStringLiteral("brut")).value<Currency>();
             const Currency vergi = FieldRead(*rows, QStringLiteral("vergi")).value<Currency>();

@@ -2,8 +2,8 @@
 #include "books/DataFiles.h"
 #include "money/Currency.h"
 #include "money/DayNumber.h"
-#include "testsupport/QueryTexts.h"
 #include "testsupport/BooksFixture.h"
+#include "testsupport/QueryTexts.h"
 
 #include <QtTest>
 
@@ -60,11 +60,15 @@ private slots:
     void movesStopAtBothEnds();
     void editAndDelete();
     void quotesInTextsAreJustText();
+    void queriesReportEmptyAndBadSql_data();
     void queriesReportEmptyAndBadSql();
+    void sqlOnDayNumbersAndAmounts_data() { queriesReportEmptyAndBadSql_data(); }
     void sqlOnDayNumbersAndAmounts();
     void storedRowIsVisibleToAnotherConnectionAtOnce();
 
 private:
+    // Opens a query as the row's "walked" says.
+    static bool query(std::unique_ptr<Recordset> &rows, const QString &sql, const QVariantList &values = {});
     std::unique_ptr<BooksFixture> m_books;
 };
 
@@ -283,15 +287,44 @@ void TestAccessLayer::quotesInTextsAreJustText()
     QVERIFY(m_books->messages().entries().isEmpty());
 }
 
+// A query held whole (QueryOpen) and one walked row by row (QueryWalk) answer alike.
+void TestAccessLayer::queriesReportEmptyAndBadSql_data()
+{
+    QTest::addColumn<bool>("walked");
+    QTest::newRow("held") << false;
+    QTest::newRow("walked") << true;
+}
+
+bool TestAccessLayer::query(std::unique_ptr<Recordset> &rows, const QString &sql, const QVariantList &values)
+{
+    QFETCH(bool, walked);
+    return (walked ? QueryWalk : QueryOpen)(*dataFiles().db, rows, sql, values);
+}
+
 void TestAccessLayer::queriesReportEmptyAndBadSql()
 {
     std::unique_ptr<Recordset> rows;
-    QVERIFY(!QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT * FROM carkart")));
+    QVERIFY(!query(rows, QStringLiteral("SELECT * FROM carkart")));
     QVERIFY(m_books->messages().entries().isEmpty());
-    QVERIFY(!QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT * FROM nowhere")));
+    QVERIFY(!query(rows, QStringLiteral("SELECT * FROM nowhere")));
     QCOMPARE(m_books->messages().texts(), QStringList { QStringLiteral("Sql Rapor Yaratılamıyor") });
     QCOMPARE(m_books->messages().entries().first().kind, Message::Kind::Exclamation);
     QVERIFY(!SqlExecute(*dataFiles().db, QStringLiteral("DELETE FROM nowhere")));
+
+    // The engine fails on the second row: a held query shows nothing, a walk ends there.
+    QVERIFY(addCard(QStringLiteral("D1")));
+    QVERIFY(addCard(QStringLiteral("D2")));
+    QFETCH(bool, walked);
+    const bool opened = query(rows,
+        QStringLiteral("SELECT CASE WHEN kod = 'D2' THEN abs(-9223372036854775807 - 1) END AS x FROM carkart "
+                       "ORDER BY kod"));
+    QCOMPARE(opened, walked);
+    if (walked) {
+        QVERIFY(!RsEof(*rows));
+        RsNext(*rows);
+        QVERIFY(RsEof(*rows));
+    }
+    QCOMPARE(m_books->messages().texts().size(), 2);
 }
 
 void TestAccessLayer::sqlOnDayNumbersAndAmounts()
@@ -300,23 +333,27 @@ void TestAccessLayer::sqlOnDayNumbersAndAmounts()
     QVERIFY(addTransaction(QStringLiteral("A"), QDate(2026, 1, 1), 0, QStringLiteral("1000.1234")));
     QVERIFY(addTransaction(QStringLiteral("A"), QDate(2026, 2, 1), 1, QStringLiteral("250.5")));
     std::unique_ptr<Recordset> rows;
-    QVERIFY(QueryOpen(*dataFiles().db, rows,
+    QVERIFY(query(rows,
         QStringLiteral("SELECT sum(tutar * (ba = 0)) AS borc, sum(tutar * (ba <> 0)) AS alacak, "
                        "count(*) AS adet FROM carhar WHERE year(tarih) = 2026 AND tarih >= ?1"),
         { DayNumber(QDate(2026, 1, 1)) }));
-    QCOMPARE(RsCount(*rows), qint64(1));
     QCOMPARE(FieldRead(*rows, QStringLiteral("borc")).toLongLong(), qint64(10001234));
     QCOMPARE(FieldRead(*rows, QStringLiteral("alacak")).toLongLong(), qint64(2505000));
     QCOMPARE(FieldRead(*rows, QStringLiteral("adet")).toLongLong(), qint64(2));
 
-    QVERIFY(
-        QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT sum(tutar) AS toplam FROM carhar WHERE kod = 'X'")));
+    QVERIFY(query(rows, QStringLiteral("SELECT sum(tutar) AS toplam FROM carhar WHERE kod = 'X'")));
     QCOMPARE(FieldRead(*rows, QStringLiteral("toplam")), QVariant(0)); // a sum over no rows reads 0
 
-    QVERIFY(QueryOpen(*dataFiles().db, rows, QStringLiteral("SELECT * FROM carhar ORDER BY oto")));
-    QCOMPARE(FieldRead(*rows, QStringLiteral("tarih")).toDate(), QDate(2025, 12, 31));
-    QCOMPARE(FieldRead(*rows, QStringLiteral("tutar")).value<Currency>().raw(), qint64(1));
+    QVERIFY(query(rows, QStringLiteral("SELECT * FROM carhar ORDER BY oto")));
     QVERIFY(!RsEdit(*rows)); // listings are read-only
+    QList<QDate> dates;
+    QList<qint64> amounts;
+    for (; !RsEof(*rows); RsNext(*rows)) {
+        dates << FieldRead(*rows, QStringLiteral("tarih")).toDate();
+        amounts << FieldRead(*rows, QStringLiteral("tutar")).value<Currency>().raw();
+    }
+    QCOMPARE(dates, QList<QDate>({ QDate(2025, 12, 31), QDate(2026, 1, 1), QDate(2026, 2, 1) }));
+    QCOMPARE(amounts, QList<qint64>({ 1, 10001234, 2505000 }));
 }
 
 void TestAccessLayer::storedRowIsVisibleToAnotherConnectionAtOnce()

@@ -1,0 +1,49 @@
+#include "books/ForwardCursor.h"
+
+#include "books/Database.h"
+#include "books/Message.h"
+#include "books/Statement.h"
+
+ForwardCursor::ForwardCursor(std::unique_ptr<Statement> query)
+    : m_query(std::move(query))
+{
+}
+
+ForwardCursor::~ForwardCursor() = default;
+
+std::unique_ptr<ForwardCursor> ForwardCursor::open(Database &db, const QString &sql, const QVariantList &values)
+{
+    auto query = std::make_unique<Statement>(db.handle(), sql);
+    if (!query->isValid() || !query->bindAll(values))
+        return nullptr;
+    std::vector<FieldDef> fields;
+    for (int i = 0; i < query->columnCount(); ++i)
+        fields.push_back(FieldDef::fromDeclaredType(query->columnName(i), query->declaredType(i), false));
+    const bool first = query->next();
+    if (!first && !query->done())
+        return nullptr;
+    std::unique_ptr<ForwardCursor> cursor(new ForwardCursor(std::move(query)));
+    cursor->setFields(std::move(fields));
+    cursor->m_bof = cursor->m_eof = !first;
+    return cursor;
+}
+
+bool ForwardCursor::moveNext()
+{
+    if (m_eof)
+        return false;
+    m_moved = true;
+    m_bof = false;
+    m_eof = !m_query->next();
+    if (m_eof && !m_query->done())
+        Message::exclamation(QStringLiteral("Sql Rapor Yaratılamıyor"));
+    return true;
+}
+
+bool ForwardCursor::currentStored(int fieldIndex, QVariant *stored) const
+{
+    if (m_eof)
+        return false;
+    *stored = m_query->column(fieldIndex);
+    return true;
+}
