@@ -1,6 +1,7 @@
 #include "money/Currency.h"
 
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 qint64 roundHalfEven(qint64 value, qint64 step)
@@ -92,13 +93,26 @@ QString Currency::toString() const
 {
     if (!isValid())
         return QStringLiteral("Taşma");
-    const bool negative = m_raw < 0;
-    const quint64 magnitude = negative ? 0 - quint64(m_raw) : quint64(m_raw);
-    QString text = QString::number(magnitude / Scale);
-    QString fraction = QString::number(magnitude % Scale).rightJustified(4, u'0');
-    while (fraction.endsWith(u'0'))
-        fraction.chop(1);
-    if (!fraction.isEmpty())
-        text += u'.' + fraction;
-    return negative ? u'-' + text : text;
+    // Written from the right into one buffer: lists turn thousands of amounts into text.
+    char16_t text[32];
+    char16_t *start = std::end(text);
+    quint64 magnitude = m_raw < 0 ? 0 - quint64(m_raw) : quint64(m_raw);
+    quint64 fraction = magnitude % Scale;
+    magnitude /= Scale;
+    int places = 4;
+    while (places > 0 && fraction % 10 == 0) {
+        fraction /= 10;
+        --places;
+    }
+    for (int d = 0; d < places; ++d, fraction /= 10)
+        *--start = char16_t(u'0' + fraction % 10);
+    if (places > 0)
+        *--start = u'.';
+    do {
+        *--start = char16_t(u'0' + magnitude % 10);
+        magnitude /= 10;
+    } while (magnitude > 0);
+    if (m_raw < 0)
+        *--start = u'-';
+    return QString::fromUtf16(start, std::end(text) - start);
 }
