@@ -43,3 +43,9 @@ QString AnySpelling(const QString &column, const QString &text)
 {
     return QStringLiteral("%1 IN (SELECT value FROM json_each(spellings(%2)))").arg(column, text);
 }
+
+QString CardCodeOf(const QString &code)
+{
+    return QStringLiteral("coalesce((SELECT kod FROM carkart WHERE kod = %1), (SELECT kod FROM carkart WHERE %2))")
+        .arg(code, AnySpelling(QStringLiteral("kod"), code));
+}

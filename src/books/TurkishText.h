@@ -19,3 +19,7 @@ QStringList CaseSpellings(const QString &text);
 // "column IN (…)": the column holds `text` (an SQL expression: "?1", "s.kod") in any of its
 // case spellings; read through the column's index.
 QString AnySpelling(const QString &column, const QString &text);
+// The code of the card (carkart) that a code belongs to in any case spelling, NULL when none, as
+// an SQL expression. The code as it stands is sought first: the spellings (up to 2^8 for an
+// eight-letter code) only for a code stored in another case than its card's.
+QString CardCodeOf(const QString &code);

@@ -103,10 +103,10 @@ void WithholdingListScreen::listEntered()
     QString sql = QStringLiteral(
         "WITH p AS MATERIALIZED (SELECT c.cari AS cari, dense_rank() OVER (ORDER BY c.cari COLLATE TR) AS sira, "
         "k.unv AS unv, k.vn AS vn, k.vd AS vd FROM (SELECT DISTINCT cari FROM defter WHERE islem = 0) c "
-        "LEFT JOIN carkart k ON %1) "
+        "LEFT JOIN carkart k ON k.kod = %1) "
         "SELECT d.tarih AS donem, d.brut AS brut, d.stopaj AS vergi, p.unv AS adsoy, p.vn AS verno, p.vd AS verda "
         "FROM p JOIN defter d ON d.islem = 0 AND d.cari IS p.cari WHERE d.stopaj > 0")
-                      .arg(AnySpelling(QStringLiteral("k.kod"), QStringLiteral("c.cari")));
+                      .arg(CardCodeOf(QStringLiteral("c.cari")));
     QVariantList values;
     sql += DateBounds(QStringLiteral("d.tarih"), m_dates[0], m_dates[1], values);
     sql += QStringLiteral(" ORDER BY p.sira, d.tarih, d.oto");
