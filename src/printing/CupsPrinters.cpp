@@ -10,24 +10,25 @@ QString &chosenPrinter()
     return name;
 }
 
+// Takes one queue of the spooler's into the list, the default first.
+int takeQueue(void *names, unsigned, cups_dest_t *dest)
+{
+    auto *list = static_cast<QStringList *>(names);
+    if (dest->is_default)
+        list->prepend(QString::fromUtf8(dest->name));
+    else
+        list->append(QString::fromUtf8(dest->name));
+    return 1;
+}
+
 } // namespace
 
 QStringList InstalledPrinters()
 {
-    cups_dest_t *dests = nullptr;
-    const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &dests);
     QStringList names;
-    QString defaultName;
-    for (int i = 0; i < count; ++i) {
-        const QString name = QString::fromUtf8(dests[i].name);
-        if (dests[i].is_default)
-            defaultName = name;
-        else
-            names << name;
-    }
-    cupsFreeDests(count, dests);
-    if (!defaultName.isEmpty())
-        names.prepend(defaultName); // the default first
+    // The queues alone: type 0 under the "discovered" mask ends the enumeration before any
+    // network search.
+    cupsEnumDests(CUPS_DEST_FLAGS_NONE, 0, nullptr, 0, CUPS_PRINTER_DISCOVERED, takeQueue, &names);
     return names;
 }
 

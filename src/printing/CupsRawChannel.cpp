@@ -1,16 +1,14 @@
 #include "printing/CupsRawChannel.h"
 
+#include "printing/CupsPrinters.h"
+
 #include <cups/cups.h>
 
 bool CupsRawChannel::open(const QString &printer, const QString &title)
 {
-    m_printer = printer.toUtf8();
-    cups_dest_t *dests = nullptr;
-    const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &dests);
-    const bool known = !printer.isEmpty() && cupsGetDest(m_printer.constData(), nullptr, count, dests) != nullptr;
-    cupsFreeDests(count, dests);
-    if (!known)
+    if (printer.isEmpty() || !InstalledPrinters().contains(printer))
         return false;
+    m_printer = printer.toUtf8();
     const QByteArray name = title.toUtf8();
     m_job = cupsCreateJob(CUPS_HTTP_DEFAULT, m_printer.constData(), name.constData(), 0, nullptr);
     if (m_job == 0)

@@ -86,7 +86,9 @@ void TestSpooler::withoutAPrinterOnlyPdfIsOffered()
     QCOMPARE(printSettings().target, PrintSettings::GraphicTarget::PdfFile);
     QVERIFY(!OpenDosPrinter());
     QVERIFY(m_spooler->addQueue(QStringLiteral("nokta")));
-    QCOMPARE(InstalledPrinters(), QStringList { QStringLiteral("nokta") });
+    QVERIFY(m_spooler->addQueue(QStringLiteral("arsiv"), false));
+    QCOMPARE(InstalledPrinters(), QStringList({ QStringLiteral("nokta"), QStringLiteral("arsiv") })); // default first
+    QVERIFY(m_spooler->removeQueue(QStringLiteral("arsiv")));
     PrinterSetupDialog withPrinter;
     QVERIFY(!control<QLabel>(withPrinter, "Label2")->isVisibleTo(&withPrinter));
 }
