@@ -1,6 +1,6 @@
 #pragma once
 
-#include "books/Recordset.h"
+#include "books/ReadOnlyCursor.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class Statement;
 // The rows of one SELECT read one at a time as a listing walks from the first to the last,
 // without holding the whole result: it only moves forward, and reads. An engine failure on a
 // later row ends the walk there with the query's message.
-class ForwardCursor : public Recordset
+class ForwardCursor : public ReadOnlyCursor
 {
 public:
     ~ForwardCursor() override;
@@ -22,13 +22,6 @@ public:
     bool moveNext() override;
     bool movePrevious() override { return false; }
     qint64 count() override { return -1; }
-
-    bool seek(const QString &, const QVariant &) override { return false; }
-    bool edit() override { return false; }
-    bool addNew() override { return false; }
-    bool update() override { return false; }
-    bool remove() override { return false; }
-    bool write(const QString &, const QVariant &) override { return false; }
 
 protected:
     bool currentStored(int fieldIndex, QVariant *stored) const override;

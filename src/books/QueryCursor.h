@@ -1,6 +1,6 @@
 #pragma once
 
-#include "books/Recordset.h"
+#include "books/ReadOnlyCursor.h"
 
 #include <memory>
 
@@ -8,7 +8,7 @@ class Database;
 
 // The rows of one SELECT, read once when it opens. Read-only: the listings read, the table
 // cursors write.
-class QueryCursor : public Recordset
+class QueryCursor : public ReadOnlyCursor
 {
 public:
     // nullptr when the engine refuses the statement or its values.
@@ -19,13 +19,6 @@ public:
     bool moveNext() override;
     bool movePrevious() override;
     qint64 count() override { return m_count; }
-
-    bool seek(const QString &, const QVariant &) override { return false; }
-    bool edit() override { return false; }
-    bool addNew() override { return false; }
-    bool update() override { return false; }
-    bool remove() override { return false; }
-    bool write(const QString &, const QVariant &) override { return false; }
 
 protected:
     bool currentStored(int fieldIndex, QVariant *stored) const override;
