@@ -52,8 +52,11 @@ DcList::DcList(QWidget *parent)
     connect(
         figures, &FigureDelegate::columnTooNarrow, this,
         [this](int column, int width) {
-            if (m_view->columnWidth(column) < width)
-                m_view->setColumnWidth(column, width);
+            if (m_view->columnWidth(column) >= width)
+                return;
+            m_view->setColumnWidth(column, width);
+            if (m_editor->isVisible())
+                placeEditor(); // an open cell moves with its column
         },
         Qt::QueuedConnection);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -92,6 +92,7 @@ private slots:
     void storedValuesByKind_data();
     void storedValuesByKind();
     void longNumberIsKeptExactly();
+    void openCellMovesWithAWidenedColumn();
     void insertMakesRoomAtTheCurrentRow();
     void focusComingAndGoing();
     void suggestionFromAlanChanged();
@@ -720,6 +721,23 @@ void TestDcList::longNumberIsKeptExactly()
     typeRow({ "05", "Kira", "12345678901234.56", "b" });
     QCOMPARE(m_list->Caption(0, 2), QStringLiteral("12345678901234.56"));
     QCOMPARE(rowTexts(0).at(2), QStringLiteral("12,345,678,901,234.56"));
+}
+
+// A number too wide for its column widens the column as it is painted; an open cell to its
+// right moves along.
+void TestDcList::openCellMovesWithAWidenedColumn()
+{
+    fillRows({ { "05.11.2026", "Kira", "1", "B" }, { "06.11.2026", "Aidat", "2", "B" } });
+    m_list->ChngSat(0);
+    QTest::keyClick(view(), Qt::Key_Return);
+    for (int cell = 0; cell < 3; ++cell)
+        enter();
+    QCOMPARE(m_list->CurrentCol(), 3);
+    m_list->setCaption(1, 2, QStringLiteral("12345678901234.56"));
+    view()->grab();
+    QCoreApplication::processEvents();
+    QVERIFY(view()->columnWidth(2) > 110);
+    QCOMPARE(m_list->editor()->geometry(), view()->visualRect(view()->model()->index(0, 3)));
 }
 
 void TestDcList::insertMakesRoomAtTheCurrentRow()
