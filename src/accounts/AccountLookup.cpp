@@ -3,6 +3,7 @@
 #include "books/AccessLayer.h"
 #include "books/DataFiles.h"
 #include "controls/DcList.h"
+#include "controls/GridFill.h"
 #include "controls/OpenInMain.h"
 #include "controls/Screen.h"
 #include "controls/XText.h"
@@ -116,18 +117,12 @@ void AccountLookup::search()
 {
     const bool byCode = !m_code->Text().isEmpty();
     const QString sql = byCode
-        ? QStringLiteral("SELECT kod, unv FROM carkart WHERE startsWith(kod, ?1) ORDER BY kod COLLATE TR")
-        : QStringLiteral("SELECT kod, unv FROM carkart WHERE startsWith(unv, ?1) ORDER BY unv COLLATE TR");
+        ? QStringLiteral("SELECT kod, unv AS unvan FROM carkart WHERE startsWith(kod, ?1) ORDER BY kod COLLATE TR")
+        : QStringLiteral("SELECT kod, unv AS unvan FROM carkart WHERE startsWith(unv, ?1) ORDER BY unv COLLATE TR");
     std::unique_ptr<Recordset> rows;
-    const bool found = QueryOpen(*dataFiles().db, rows, sql, { byCode ? m_code->Text() : m_title->Text() });
     m_list->Clear();
-    if (found) {
-        do {
-            const int row = m_list->CreateNewCaption();
-            m_list->setCaption(row, 0, FieldRead(*rows, QStringLiteral("kod")).toString());
-            m_list->setCaption(row, 1, FieldRead(*rows, QStringLiteral("unv")).toString());
-        } while (RsNext(*rows));
-    }
+    if (QueryWalk(*dataFiles().db, rows, sql, { byCode ? m_code->Text() : m_title->Text() }))
+        FillGrid(*m_list, *rows);
     // The first row is current from the start: Enter or "Tamam" returns the row the list shows.
     m_currentKod.clear();
     if (m_list->ListCount() > 0)
