@@ -374,7 +374,15 @@ void DcList::fitToColumns(int rows)
     for (int c = 0; c < m_model->columnCount(); ++c)
         width += Size(c);
     const int frame = 2 * m_view->frameWidth() + m_view->verticalScrollBar()->sizeHint().width();
-    setMinimumSize(width + frame, rows * m_view->verticalHeader()->defaultSectionSize());
+    m_fitted = QSize(width + frame, rows * m_view->verticalHeader()->defaultSectionSize());
+    updateGeometry();
+}
+
+// The size that shows every column: what a screen opens with; the user may make it smaller (the
+// list then scrolls).
+QSize DcList::sizeHint() const
+{
+    return m_fitted.isValid() ? m_fitted : QWidget::sizeHint();
 }
 
 bool DcList::SendExel(const QString &title, const QString &text2, const QString &text3, const QString &text4)

@@ -98,8 +98,9 @@ public:
     void setBaslikVar(bool on);
     // 0 no scroll bars, 1 vertical, 2 horizontal, 3 both.
     void setScroll(int bars);
-    // Asks for room to show every column and the given number of rows.
+    // Asks for room to show every column and the given number of rows (the size hint).
     void fitToColumns(int rows = 12);
+    QSize sizeHint() const override;
     void setBgColor(const QColor &colour);
     void setPassiveTextColor(const QColor &text, const QColor &back);
     void setZebraTextColor(const QColor &text, const QColor &back);
@@ -144,6 +145,7 @@ private:
     void setCellFont(const QFont &font);
     int editRow() const { return qMax(m_current, 0); }
 
+    QSize m_fitted; // from fitToColumns
     QTableView *m_view;
     DcListModel *m_model;
     DcCellEditor *m_editor;
