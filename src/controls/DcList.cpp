@@ -197,15 +197,7 @@ void DcList::setCellFont(const QFont &font)
 
 int DcList::CreateNewCaption()
 {
-    return AddCaptions({});
-}
-
-int DcList::AddCaptions(const QStringList &cells)
-{
-    const int row = m_model->appendRow(cells);
-    if (row < 0)
-        tellFull();
-    return row;
+    return AddCaptionRows({ QStringList() }) == 1 ? ListCount() - 1 : -1;
 }
 
 int DcList::AddCaptionRows(std::vector<QStringList> rows)

@@ -41,8 +41,6 @@ public:
 
     // Rows and cells
     int CreateNewCaption();
-    // A row with its cells' texts at the end (CreateNewCaption and a Caption per cell, at once).
-    int AddCaptions(const QStringList &cells);
     // Rows of cell texts at the end at once; answers how many the list took.
     int AddCaptionRows(std::vector<QStringList> rows);
     int ListCount() const;

@@ -85,13 +85,6 @@ int DcListModel::columnByName(const QString &name) const
     return -1;
 }
 
-int DcListModel::appendRow(QStringList cells)
-{
-    std::vector<QStringList> row;
-    row.push_back(std::move(cells));
-    return appendRows(std::move(row)) == 1 ? rowCount() - 1 : -1;
-}
-
 int DcListModel::appendRows(std::vector<QStringList> rows)
 {
     const int first = rowCount();

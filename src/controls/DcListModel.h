@@ -29,11 +29,8 @@ public:
     void removeAllColumns();
     int columnByName(const QString &name) const; // -1 when unknown
 
-    // A new row at the end, empty or with its cells (one per column, the rest empty), with one
-    // notice to the views; -1 when the list is full.
-    int appendRow(QStringList cells = {});
-    // Rows at the end with one notice to the views, as many as the list still takes; answers
-    // how many that was.
+    // Rows at the end (cells one per column, the rest empty) with one notice to the views, as
+    // many as the list still takes; answers how many that was.
     int appendRows(std::vector<QStringList> rows);
     void insertEmptyRow(int row);
     void removeRowAt(int row);

@@ -6,7 +6,7 @@
 
 bool CupsRawChannel::open(const QString &printer, const QString &title)
 {
-    if (printer.isEmpty() || !InstalledPrinters().contains(printer))
+    if (!InstalledPrinters().contains(printer))
         return false;
     m_printer = printer.toUtf8();
     const QByteArray name = title.toUtf8();
