@@ -16,14 +16,11 @@ std::unique_ptr<ForwardCursor> ForwardCursor::open(Database &db, const QString &
     auto query = std::make_unique<Statement>(db.handle(), sql);
     if (!query->isValid() || !query->bindAll(values))
         return nullptr;
-    std::vector<FieldDef> fields;
-    for (int i = 0; i < query->columnCount(); ++i)
-        fields.push_back(FieldDef::fromDeclaredType(query->columnName(i), query->declaredType(i), false));
     const bool first = query->next();
     if (!first && !query->done())
         return nullptr;
     std::unique_ptr<ForwardCursor> cursor(new ForwardCursor(std::move(query)));
-    cursor->setFields(std::move(fields));
+    cursor->takeColumnsOf(*cursor->m_query);
     cursor->m_bof = cursor->m_eof = !first;
     return cursor;
 }

@@ -10,10 +10,7 @@ std::unique_ptr<QueryCursor> QueryCursor::open(Database &db, const QString &sql,
         return nullptr;
     std::unique_ptr<QueryCursor> cursor(new QueryCursor);
     const int columns = query.columnCount();
-    std::vector<FieldDef> fields;
-    for (int i = 0; i < columns; ++i)
-        fields.push_back(FieldDef::fromDeclaredType(query.columnName(i), query.declaredType(i), false));
-    cursor->setFields(std::move(fields));
+    cursor->takeColumnsOf(query);
     cursor->m_width = size_t(columns);
     while (query.next()) {
         for (int i = 0; i < columns; ++i)
