@@ -66,7 +66,7 @@ bool fill(sqlite3 *db)
         sqlite3_reset(row);
     }
     sqlite3_finalize(row);
-    return run(db, "COMMIT") && run(db, "ANALYZE");
+    return run(db, "COMMIT");
 }
 
 bool fillLedger(sqlite3 *db)
@@ -98,7 +98,7 @@ bool fillLedger(sqlite3 *db)
         sqlite3_reset(row);
     }
     sqlite3_finalize(row);
-    return run(db, "COMMIT") && run(db, "ANALYZE");
+    return run(db, "COMMIT");
 }
 
 sqlite3 *openBook(const QString &folder, bool (*fillBook)(sqlite3 *))
