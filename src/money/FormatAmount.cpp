@@ -95,36 +95,6 @@ QString composed(DecimalText number, int decimals, long groupSize)
     return number.negative && !showsZero ? u'-' + text : text;
 }
 
-// An amount's digits rounded to the decimals as roundTo does, read from its integer instead of
-// its text (lists format thousands of amounts).
-DecimalText roundedDigits(Currency amount, int decimals)
-{
-    const qint64 raw = amount.raw();
-    const quint64 magnitude = raw < 0 ? 0 - quint64(raw) : quint64(raw);
-    quint64 whole = magnitude / Currency::Scale;
-    quint64 fraction = magnitude % Currency::Scale; // four decimals
-    quint64 unit = 1;
-    for (int d = 0; d < decimals; ++d)
-        unit *= 10;
-    if (decimals < 4) {
-        const quint64 step = quint64(Currency::Scale) / unit;
-        const bool up = fraction % step >= step / 2;
-        fraction = fraction / step + (up ? 1 : 0);
-        if (fraction == unit) {
-            fraction = 0;
-            ++whole;
-        }
-    } else {
-        fraction *= unit / quint64(Currency::Scale);
-    }
-    DecimalText digits;
-    digits.negative = raw < 0;
-    digits.whole = QString::number(whole);
-    if (decimals > 0)
-        digits.fraction = QString::number(fraction).rightJustified(decimals, u'0');
-    return digits;
-}
-
 } // namespace
 
 QString FormatAmount(const QString &amountText, long groupSize)
@@ -142,12 +112,47 @@ QString FormatNumber(const QString &numberText, int decimals, long groupSize)
     return composed(std::move(number), decimals, groupSize);
 }
 
+// Lists format thousands of amounts: the digits are read from the integer, rounded as roundTo
+// rounds, and written from the right into one buffer, with the same rules as composed().
 QString FormatAmount(Currency amount, long groupSize)
 {
     if (!amount.isValid())
         return amount.toString();
     if (amount == Currency())
         return QString();
-    const int decimals = qBound(0, amountConventions().tlonda, 9);
-    return composed(roundedDigits(amount, decimals), decimals, groupSize);
+    const AmountConventions &conventions = amountConventions();
+    const int decimals = qBound(0, conventions.tlonda, 9);
+    const qint64 raw = amount.raw();
+    const quint64 magnitude = raw < 0 ? 0 - quint64(raw) : quint64(raw);
+    quint64 whole = magnitude / Currency::Scale;
+    quint64 fraction = magnitude % Currency::Scale; // four decimals
+    quint64 unit = 1;
+    for (int d = 0; d < decimals; ++d)
+        unit *= 10;
+    if (decimals < 4) {
+        const quint64 step = quint64(Currency::Scale) / unit;
+        fraction = fraction / step + (fraction % step >= step / 2 ? 1 : 0);
+        if (fraction == unit) {
+            fraction = 0;
+            ++whole;
+        }
+    } else {
+        fraction *= unit / quint64(Currency::Scale);
+    }
+    const bool showsZero = whole == 0 && fraction == 0;
+    char16_t text[64];
+    int at = 64;
+    for (int d = 0; d < decimals; ++d, fraction /= 10)
+        text[--at] = char16_t(u'0' + fraction % 10);
+    if (decimals > 0)
+        text[--at] = conventions.decimalSeparator.unicode();
+    // No leading zero before the point (".50"); a lone zero without decimals.
+    for (long n = 0; whole > 0 || (n == 0 && decimals == 0); ++n, whole /= 10) {
+        if (groupSize > 0 && n > 0 && n % groupSize == 0)
+            text[--at] = conventions.thousandsSeparator.unicode();
+        text[--at] = char16_t(u'0' + whole % 10);
+    }
+    if (raw < 0 && !showsZero)
+        text[--at] = u'-';
+    return QString(reinterpret_cast<const QChar *>(text + at), 64 - at);
 }
