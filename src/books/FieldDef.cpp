@@ -259,19 +259,16 @@ QVariant FieldDef::fromStorage(const QVariant &stored) const
         return stored;
     switch (type) {
     case FieldType::Boolean:
-        return stored.toLongLong() != 0;
     case FieldType::Byte:
     case FieldType::Integer:
     case FieldType::Long:
-        return int(stored.toLongLong());
     case FieldType::Currency:
-        return QVariant::fromValue(Currency::fromRaw(stored.toLongLong()));
+    case FieldType::Date:
+        return fromInteger(stored.toLongLong());
     case FieldType::Single:
         return float(stored.toDouble());
     case FieldType::Double:
         return stored.toDouble();
-    case FieldType::Date:
-        return DateFromDayNumber(stored.toLongLong());
     case FieldType::Binary:
     case FieldType::LongBinary:
         return stored.toByteArray();
@@ -280,6 +277,24 @@ QVariant FieldDef::fromStorage(const QVariant &stored) const
         return stored.toString();
     }
     return stored;
+}
+
+QVariant FieldDef::fromInteger(qint64 stored) const
+{
+    switch (type) {
+    case FieldType::Boolean:
+        return stored != 0;
+    case FieldType::Byte:
+    case FieldType::Integer:
+    case FieldType::Long:
+        return int(stored);
+    case FieldType::Currency:
+        return QVariant::fromValue(Currency::fromRaw(stored));
+    case FieldType::Date:
+        return DateFromDayNumber(stored);
+    default:
+        return QVariant();
+    }
 }
 
 QVariant FieldDef::nullReplacement() const

@@ -41,6 +41,9 @@ struct FieldDef
     bool toStorage(const QVariant &value, QVariant *stored) const;
     // The value a screen reads for a stored one (an invalid QVariant for Null).
     QVariant fromStorage(const QVariant &stored) const;
+    // The same for a stored integer, for the fields that keep one (numbers, amounts, dates); an
+    // invalid QVariant for the rest.
+    QVariant fromInteger(qint64 stored) const;
     // What a read of Null gives: "" for Text and Date, Null for binary, 0 for the rest.
     QVariant nullReplacement() const;
 };

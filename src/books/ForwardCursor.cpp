@@ -37,6 +37,27 @@ bool ForwardCursor::moveNext()
     return true;
 }
 
+// A listing reads every field of thousands of rows: integers and texts go from the engine's
+// column to the field's value without the stored value in between.
+bool ForwardCursor::currentValue(int fieldIndex, QVariant *value) const
+{
+    if (m_eof)
+        return false;
+    const FieldDef &def = field(fieldIndex);
+    const Statement::Kind kind = m_query->columnKind(fieldIndex);
+    if (kind == Statement::Kind::Integer) {
+        QVariant typed = def.fromInteger(m_query->columnInteger(fieldIndex));
+        if (typed.isValid()) {
+            *value = std::move(typed);
+            return true;
+        }
+    } else if (kind == Statement::Kind::Text && (def.type == FieldType::Text || def.type == FieldType::Memo)) {
+        *value = m_query->columnText(fieldIndex);
+        return true;
+    }
+    return ReadOnlyCursor::currentValue(fieldIndex, value);
+}
+
 bool ForwardCursor::currentStored(int fieldIndex, QVariant *stored) const
 {
     if (m_eof)

@@ -25,6 +25,7 @@ public:
 
 protected:
     bool currentStored(int fieldIndex, QVariant *stored) const override;
+    bool currentValue(int fieldIndex, QVariant *value) const override;
 
 private:
     explicit ForwardCursor(std::unique_ptr<Statement> query);

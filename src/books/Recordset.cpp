@@ -18,8 +18,13 @@ int Recordset::fieldIndex(const QString &name) const
 bool Recordset::read(const QString &fieldName, QVariant *value) const
 {
     const int index = fieldIndex(fieldName);
+    return index >= 0 && currentValue(index, value);
+}
+
+bool Recordset::currentValue(int index, QVariant *value) const
+{
     QVariant stored;
-    if (index < 0 || !currentStored(index, &stored))
+    if (!currentStored(index, &stored))
         return false;
     *value = stored.isNull() ? field(index).nullReplacement() : field(index).fromStorage(stored);
     return true;

@@ -44,6 +44,9 @@ protected:
     int fieldCount() const { return int(m_fields.size()); }
     // The stored value of a field of the current (or pending) record; false without one.
     virtual bool currentStored(int fieldIndex, QVariant *stored) const = 0;
+    // What read() answers for it: the stored value with Null replaced for the field's type. A
+    // cursor that can take the common values more directly from where they are kept overrides it.
+    virtual bool currentValue(int fieldIndex, QVariant *value) const;
 
     bool m_bof = true;
     bool m_eof = true;

@@ -88,22 +88,48 @@ int Statement::columnCount() const
 
 QVariant Statement::column(int index) const
 {
-    switch (sqlite3_column_type(m_stmt, index)) {
-    case SQLITE_INTEGER:
-        return qint64(sqlite3_column_int64(m_stmt, index));
-    case SQLITE_FLOAT:
+    switch (columnKind(index)) {
+    case Kind::Integer:
+        return columnInteger(index);
+    case Kind::Real:
         return sqlite3_column_double(m_stmt, index);
-    case SQLITE_TEXT: {
-        const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(m_stmt, index));
-        return QString::fromUtf8(text, sqlite3_column_bytes(m_stmt, index));
-    }
-    case SQLITE_BLOB: {
+    case Kind::Text:
+        return columnText(index);
+    case Kind::Blob: {
         const auto *data = static_cast<const char *>(sqlite3_column_blob(m_stmt, index));
         return QByteArray(data, sqlite3_column_bytes(m_stmt, index));
     }
-    default:
-        return QVariant();
+    case Kind::Null:
+        break;
     }
+    return QVariant();
+}
+
+Statement::Kind Statement::columnKind(int index) const
+{
+    switch (sqlite3_column_type(m_stmt, index)) {
+    case SQLITE_INTEGER:
+        return Kind::Integer;
+    case SQLITE_FLOAT:
+        return Kind::Real;
+    case SQLITE_TEXT:
+        return Kind::Text;
+    case SQLITE_BLOB:
+        return Kind::Blob;
+    default:
+        return Kind::Null;
+    }
+}
+
+qint64 Statement::columnInteger(int index) const
+{
+    return sqlite3_column_int64(m_stmt, index);
+}
+
+QString Statement::columnText(int index) const
+{
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(m_stmt, index));
+    return QString::fromUtf8(text, sqlite3_column_bytes(m_stmt, index));
 }
 
 QString Statement::columnName(int index) const

@@ -29,6 +29,11 @@ public:
 
     int columnCount() const;
     QVariant column(int index) const;
+    // What the engine holds in a column of the current row, and the value read as that kind.
+    enum class Kind { Null, Integer, Real, Text, Blob };
+    Kind columnKind(int index) const;
+    qint64 columnInteger(int index) const;
+    QString columnText(int index) const;
     QString columnName(int index) const;
     QString declaredType(int index) const;
 
