@@ -457,4 +457,12 @@ void TestAccountReports::turkishOrderAndCase()
         QStringList({ "IŞIK|||Kart IŞIK|||", "01.03.2026|2-SMM|||100.00||100.00 B",
             "02.03.2026|1-Nakit||||40.00|60.00 B", "|||Hesap Toplamı :|100.00|40.00|60.00 B", "inci|||Kart inci|||",
             "05.03.2026|2-SMM|||5.00||5.00 B", "|||Hesap Toplamı :|5.00||5.00 B" }));
+
+    // One account with its two ends spelled apart: its rows in both spellings.
+    TypeIntoField(field(0), QStringLiteral("ışık"));
+    TypeIntoField(field(1), QStringLiteral("IŞIK"));
+    statement->listOnScreen();
+    QCOMPARE(shownRows(statement->listWindow()->list()),
+        QStringList({ "IŞIK|||Kart IŞIK|||", "01.03.2026|2-SMM|||100.00||100.00 B",
+            "02.03.2026|1-Nakit||||40.00|60.00 B", "|||Hesap Toplamı :|100.00|40.00|60.00 B" }));
 }
