@@ -22,6 +22,24 @@ bool run(sqlite3 *db, const char *sql)
     return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
+// The account cards, each with its title, tax office and tax number.
+void addCards(sqlite3 *db)
+{
+    sqlite3_stmt *card = nullptr;
+    sqlite3_prepare_v2(db, "INSERT INTO carkart (kod, unv, vd, vn) VALUES (?1, ?2, 'Kadıköy', ?3)", -1, &card, nullptr);
+    for (int i = 0; i < accounts; ++i) {
+        const QByteArray code = accountCode(i).toUtf8();
+        const QByteArray title = QStringLiteral("Müşteri %1").arg(i).toUtf8();
+        const QByteArray taxNumber = QByteArray::number(1000000000 + i);
+        sqlite3_bind_text(card, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(card, 2, title.constData(), int(title.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(card, 3, taxNumber.constData(), int(taxNumber.size()), SQLITE_TRANSIENT);
+        sqlite3_step(card);
+        sqlite3_reset(card);
+    }
+    sqlite3_finalize(card);
+}
+
 } // namespace
 
 QString accountCode(int i)
@@ -38,17 +56,7 @@ bool fill(sqlite3 *db)
     std::uniform_int_distribution<int> side(0, 1);
     std::uniform_int_distribution<qint64> amount(1, 50000000);
     run(db, "BEGIN");
-    sqlite3_stmt *card = nullptr;
-    sqlite3_prepare_v2(db, "INSERT INTO carkart (kod, unv) VALUES (?1, ?2)", -1, &card, nullptr);
-    for (int i = 0; i < accounts; ++i) {
-        const QByteArray code = accountCode(i).toUtf8();
-        const QByteArray title = QStringLiteral("Müşteri %1").arg(i).toUtf8();
-        sqlite3_bind_text(card, 1, code.constData(), int(code.size()), SQLITE_TRANSIENT);
-        sqlite3_bind_text(card, 2, title.constData(), int(title.size()), SQLITE_TRANSIENT);
-        sqlite3_step(card);
-        sqlite3_reset(card);
-    }
-    sqlite3_finalize(card);
+    addCards(db);
     sqlite3_stmt *row = nullptr;
     sqlite3_prepare_v2(db,
         "INSERT INTO carhar (kod, tarih, islem, evrak, ack, ba, tutar) VALUES (?1, ?2, ?3, 'E1', 'Danışmanlık', ?4, "
@@ -77,6 +85,7 @@ bool fillLedger(sqlite3 *db)
     std::uniform_int_distribution<qint64> gross(1, 5000000);
     std::uniform_int_distribution<int> account(0, accounts - 1);
     run(db, "BEGIN");
+    addCards(db); // the payers
     sqlite3_stmt *row = nullptr;
     sqlite3_prepare_v2(db,
         "INSERT INTO defter (sira, tarih, islem, evrak, cari, ack, brut, stopaj, fon, kdv) "

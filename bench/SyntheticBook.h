@@ -23,7 +23,8 @@ QString accountCode(int i);
 // over the years: the engine keeps no statistics of it (the program never runs ANALYZE), so every
 // plan, the program's and the raw engine's alike, is chosen without them. False on an engine error.
 bool fill(sqlite3 *db);
-// Ten years of the professional's ledger, 2017 to 2026: rows of `defter`, income and expense.
+// Ten years of the professional's ledger, 2017 to 2026: rows of `defter`, income and expense,
+// of the same 10,000 accounts, whose cards the book holds.
 constexpr int ledgerRows = 100000;
 bool fillLedger(sqlite3 *db);
 // Makes the program's data file in folder, fills it, and answers a raw connection to it with
