@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
   build-essential clang cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-base-dev-tools libqt6sql6 qt6-translations-l10n
-  libsqlite3-dev libcups2-dev libxlsxwriter-dev libzip-dev
+  libsqlite3-dev libicu-dev libcups2-dev libxlsxwriter-dev libzip-dev
   xvfb xauth xdg-utils fonts-dejavu-core
   cups cups-client cups-bsd poppler-utils python3 sqlite3
   "$@"

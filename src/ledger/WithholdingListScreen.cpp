@@ -98,10 +98,11 @@ const ReportColumns &WithholdingListScreen::columns()
 // last one.
 void WithholdingListScreen::listEntered()
 {
-    // The payers in Turkish order, each with its card (found in any spelling of the code), then
-    // their rows by the (islem, cari, tarih) index.
+    // The payers, each with its card (found in any spelling of the code) and its key in the
+    // Turkish order (one key for the spellings of one code), then their rows by the (islem, cari,
+    // tarih) index, sorted by the keys' bytes.
     QString sql = QStringLiteral(
-        "WITH p AS MATERIALIZED (SELECT c.cari AS cari, dense_rank() OVER (ORDER BY c.cari COLLATE TR) AS sira, "
+        "WITH p AS MATERIALIZED (SELECT c.cari AS cari, turkishkey(c.cari) AS sira, "
         "k.unv AS unv, k.vn AS vn, k.vd AS vd FROM (SELECT DISTINCT cari FROM defter WHERE islem = 0) c "
         "LEFT JOIN carkart k ON k.kod = %1) "
         "SELECT d.tarih AS donem, d.brut AS brut, d.stopaj AS vergi, p.unv AS adsoy, p.vn AS verno, p.vd AS verda "
