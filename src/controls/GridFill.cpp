@@ -14,11 +14,19 @@
 
 QString GridCellText(const QVariant &value)
 {
-    if (value.typeId() == QMetaType::QDate)
-        return FormatDate(value.toDate());
-    if (value.userType() == qMetaTypeId<Currency>())
-        return value.value<Currency>().toString();
-    return value.toString();
+    // Lists turn thousands of cells into text: the usual kinds are read in place.
+    switch (value.typeId()) {
+    case QMetaType::QString:
+        return *static_cast<const QString *>(value.constData());
+    case QMetaType::Int:
+        return QString::number(*static_cast<const int *>(value.constData()));
+    case QMetaType::QDate:
+        return FormatDate(*static_cast<const QDate *>(value.constData()));
+    default:
+        if (value.userType() == qMetaTypeId<Currency>())
+            return static_cast<const Currency *>(value.constData())->toString();
+        return value.toString();
+    }
 }
 
 int FillGrid(DcList &list, Recordset &records)

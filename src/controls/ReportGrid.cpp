@@ -34,14 +34,17 @@ void DefineReportColumns(DcList &list, const ReportColumns &columns)
 
 bool AddReportRows(DcList &list, const ReportColumns &columns, const std::vector<QVariantList> &rows)
 {
+    std::vector<int> listed;
+    for (size_t c = 0; c < columns.size(); ++c)
+        if (columns[c].listed())
+            listed.push_back(int(c));
     std::vector<QStringList> shown;
     shown.reserve(rows.size());
     for (const QVariantList &cells : rows) {
         QStringList texts;
-        texts.reserve(int(columns.size()));
-        for (size_t c = 0; c < columns.size(); ++c)
-            if (columns[c].listed())
-                texts << GridCellText(cells.value(int(c)));
+        texts.reserve(int(listed.size()));
+        for (const int c : listed)
+            texts << (c < cells.size() ? GridCellText(cells.at(c)) : QString());
         shown.push_back(std::move(texts));
     }
     return list.AddCaptionRows(std::move(shown)) == int(rows.size());
