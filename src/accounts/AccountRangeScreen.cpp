@@ -78,10 +78,13 @@ void AccountRangeScreen::fillCodesFromCards()
     m_fields[LastCode]->setText(FieldRead(*ends, QStringLiteral("son")).toString());
 }
 
-QString AccountRangeScreen::rangeCondition(QVariantList &values) const
+QString AccountRangeScreen::rangeCondition(QVariantList &values, Listed listed) const
 {
     const QString first = m_fields[FirstCode]->Text();
     const QString last = m_fields[LastCode]->Text();
+    if (listed == Listed::CardsOnly && holdsEveryCard(first, last))
+        return QStringLiteral("1")
+            + DateBounds(QStringLiteral("c.tarih"), m_fields[FirstDate], m_fields[LastDate], values);
     values << first;
     const QString firstValue = QStringLiteral("?%1").arg(values.size());
     QString codes;
@@ -101,6 +104,17 @@ QString AccountRangeScreen::rangeCondition(QVariantList &values) const
                     .arg(values.size());
     }
     return codes + DateBounds(QStringLiteral("c.tarih"), m_fields[FirstDate], m_fields[LastDate], values);
+}
+
+// No card lies outside the codes from first to last, as on opening (the first and the last card).
+bool AccountRangeScreen::holdsEveryCard(const QString &first, const QString &last)
+{
+    std::unique_ptr<Recordset> outside;
+    return QueryOpen(*dataFiles().db, outside,
+               QStringLiteral("SELECT EXISTS (SELECT 1 FROM carkart WHERE kod COLLATE TR < ?1 OR kod COLLATE TR > ?2) "
+                              "AS disarida"),
+               { first, last })
+        && FieldRead(*outside, QStringLiteral("disarida")).toInt() == 0;
 }
 
 void AccountRangeScreen::print()

@@ -25,9 +25,13 @@ public:
     virtual void printOn(int kind) = 0;
 
 protected:
+    // Whether a report lists every account of the range, or only those with a card.
+    enum class Listed { Every, CardsOnly };
     // The condition on carhar rows (as c) of the two ranges: an empty code is the empty text, a
-    // field that holds no date sets no bound. Appends its values.
-    QString rangeCondition(QVariantList &values) const;
+    // field that holds no date sets no bound. Appends its values. A report of the carded accounts
+    // whose code range holds every card reads its rows with no code bound at all: in code order
+    // through the index, instead of code by code.
+    QString rangeCondition(QVariantList &values, Listed listed = Listed::Every) const;
     // Whether an account of this card type is admitted (types outside 0-2 always are).
     bool admits(int tip) const;
     QString codeRangeText() const;
@@ -37,6 +41,7 @@ protected:
 
 private:
     XText *makeField(int index, int format, bool autoSelect);
+    static bool holdsEveryCard(const QString &first, const QString &last);
     void fillCodesFromCards();
 
     XText *m_fields[4] = {};

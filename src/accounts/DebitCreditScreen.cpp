@@ -28,7 +28,7 @@ std::vector<DebitCreditScreen::Account> DebitCreditScreen::accounts() const
         "amountsum(CASE WHEN ba <> 0 THEN tutar END) AS alacak FROM (SELECT c.kod AS kod, c.ba AS ba, "
         "amountsum(c.tutar) AS tutar FROM carhar c WHERE %1 GROUP BY c.kod, c.ba) GROUP BY kod) s "
         "JOIN carkart k ON k.kod = %2 GROUP BY k.kod ORDER BY k.kod COLLATE TR")
-                            .arg(rangeCondition(values), CardCodeOf(QStringLiteral("s.kod")));
+                            .arg(rangeCondition(values, Listed::CardsOnly), CardCodeOf(QStringLiteral("s.kod")));
     std::vector<Account> found;
     std::unique_ptr<Recordset> rows;
     if (!QueryWalk(*dataFiles().db, rows, sql, values))

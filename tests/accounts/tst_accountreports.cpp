@@ -79,6 +79,7 @@ private slots:
     void opensWithTheFirstAndLastCard();
     void listedOnScreen_data();
     void listedOnScreen();
+    void datesBoundTheSums_data();
     void datesBoundTheSums();
     void sumBeyondTheMoneyTypeShowsOverflow();
     void debitCreditPagesOnTheDotMatrixPrinter_data();
@@ -212,17 +213,31 @@ void TestAccountReports::listedOnScreen()
     QCOMPARE(shownRows(screen->listWindow()->list()), rows);
 }
 
+void TestAccountReports::datesBoundTheSums_data()
+{
+    QTest::addColumn<QString>("firstCode");
+    QTest::addColumn<QStringList>("rows");
+    QTest::newRow("from K1") << QStringLiteral("K1")
+                             << QStringList({ "K1|Kaya Hukuk|800.00||800.00|", "P1|Ali Veli||250.00||250.00",
+                                    "X1|Ağaoğlu|500.00||500.00|", "|T O P L A M|1,300.00|250.00|1,300.00|250.00" });
+    // The range holds every card: the sums read no code bound, the dates still bound them.
+    QTest::newRow("every card") << QStringLiteral("D1")
+                                << QStringList({ "D1|Deniz Ltd.|100.00||100.00|", "K1|Kaya Hukuk|800.00||800.00|",
+                                       "P1|Ali Veli||250.00||250.00", "X1|Ağaoğlu|500.00||500.00|",
+                                       "|T O P L A M|1,400.00|250.00|1,400.00|250.00" });
+}
+
 void TestAccountReports::datesBoundTheSums()
 {
+    QFETCH(QString, firstCode);
+    QFETCH(QStringList, rows);
     seedMixedBook();
     auto *screen = open<DebitCreditScreen>("mnugbor", "Form10");
     TypeIntoField(field(2), QStringLiteral("??.??.????")); // not a date: no bound
     TypeIntoField(field(3), QStringLiteral("01042026"));
-    TypeIntoField(field(0), QStringLiteral("K1"));
+    TypeIntoField(field(0), firstCode);
     screen->listOnScreen();
-    QCOMPARE(shownRows(screen->listWindow()->list()),
-        QStringList({ "K1|Kaya Hukuk|800.00||800.00|", "P1|Ali Veli||250.00||250.00", "X1|Ağaoğlu|500.00||500.00|",
-            "|T O P L A M|1,300.00|250.00|1,300.00|250.00" }));
+    QCOMPARE(shownRows(screen->listWindow()->list()), rows);
 }
 
 QByteArray TestAccountReports::printRaw()
