@@ -82,25 +82,23 @@ QString AccountRangeScreen::rangeCondition(QVariantList &values, Listed listed) 
 {
     const QString first = m_fields[FirstCode]->Text();
     const QString last = m_fields[LastCode]->Text();
-    if (listed == Listed::CardsOnly && holdsEveryCard(first, last))
-        return QStringLiteral("1")
-            + DateBounds(QStringLiteral("c.tarih"), m_fields[FirstDate], m_fields[LastDate], values);
-    values << first;
-    const QString firstValue = QStringLiteral("?%1").arg(values.size());
     QString codes;
-    if (CaseSpellings(first).contains(last)) {
+    if (listed == Listed::CardsOnly && holdsEveryCard(first, last)) {
+        codes = QStringLiteral("1");
+    } else if (CaseSpellings(first).contains(last)) {
         // One account, however its two ends are spelled: its rows in any case spelling of the
         // code, as the other screens of one account find them.
-        codes = AnySpelling(QStringLiteral("c.kod"), firstValue);
+        values << first;
+        codes = AnySpelling(QStringLiteral("c.kod"), QStringLiteral("?%1").arg(values.size()));
     } else {
         // The codes in the range are the Turkish order's; the index still answers, read for the
         // codes that occur (one look-up per distinct code), then for the rows of those in the range.
-        values << last;
+        values << first << last;
         codes = QStringLiteral("c.kod IN (WITH RECURSIVE kodlar(kod) AS (SELECT min(kod) FROM carhar UNION ALL "
                                "SELECT (SELECT min(kod) FROM carhar WHERE kod > kodlar.kod) FROM kodlar "
                                "WHERE kodlar.kod IS NOT NULL) SELECT kod FROM kodlar WHERE kod COLLATE TR BETWEEN "
-                               "%1 AND ?%2)")
-                    .arg(firstValue)
+                               "?%1 AND ?%2)")
+                    .arg(values.size() - 1)
                     .arg(values.size());
     }
     return codes + DateBounds(QStringLiteral("c.tarih"), m_fields[FirstDate], m_fields[LastDate], values);
