@@ -96,9 +96,9 @@ QString Currency::toString() const
     // Written from the right into one buffer: lists turn thousands of amounts into text.
     char16_t text[32];
     char16_t *start = std::end(text);
-    quint64 magnitude = m_raw < 0 ? 0 - quint64(m_raw) : quint64(m_raw);
-    quint64 fraction = magnitude % Scale;
-    magnitude /= Scale;
+    const quint64 size = quint64(magnitude().raw());
+    quint64 whole = size / Scale;
+    quint64 fraction = size % Scale;
     int places = 4;
     while (places > 0 && fraction % 10 == 0) {
         fraction /= 10;
@@ -109,9 +109,9 @@ QString Currency::toString() const
     if (places > 0)
         *--start = u'.';
     do {
-        *--start = char16_t(u'0' + magnitude % 10);
-        magnitude /= 10;
-    } while (magnitude > 0);
+        *--start = char16_t(u'0' + whole % 10);
+        whole /= 10;
+    } while (whole > 0);
     if (m_raw < 0)
         *--start = u'-';
     return QString::fromUtf16(start, std::end(text) - start);

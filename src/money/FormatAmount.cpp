@@ -122,8 +122,7 @@ QString FormatAmount(Currency amount, long groupSize)
         return QString();
     const AmountConventions &conventions = amountConventions();
     const int decimals = qBound(0, conventions.tlonda, 9);
-    const qint64 raw = amount.raw();
-    const quint64 magnitude = raw < 0 ? 0 - quint64(raw) : quint64(raw);
+    const quint64 magnitude = quint64(amount.magnitude().raw());
     quint64 whole = magnitude / Currency::Scale;
     quint64 fraction = magnitude % Currency::Scale; // four decimals
     quint64 unit = 1;
@@ -152,7 +151,7 @@ QString FormatAmount(Currency amount, long groupSize)
             text[--at] = conventions.thousandsSeparator.unicode();
         text[--at] = char16_t(u'0' + whole % 10);
     }
-    if (raw < 0 && !showsZero)
+    if (amount < Currency() && !showsZero)
         text[--at] = u'-';
     return QString(reinterpret_cast<const QChar *>(text + at), 64 - at);
 }
