@@ -68,8 +68,7 @@ void AccountStatementScreen::walk(const std::function<void(Line line, const QVar
                 shown = !hasCard || admits(FieldRead(cards, QStringLiteral("tip")).toInt());
                 if (shown)
                     emitLine(Line::Heading,
-                        { hasCard ? FieldRead(cards, QStringLiteral("kod")) : FieldRead(*rows, QStringLiteral("kod")),
-                            QString(), QString(),
+                        { hasCard ? FieldRead(cards, QStringLiteral("kod")) : QVariant(spelling), QString(), QString(),
                             hasCard ? FieldRead(cards, QStringLiteral("unv")).toString() : QString() });
             }
         }
