@@ -57,6 +57,7 @@ public:
         return true;
     }
     bool close() override { return true; }
+    QString failure() const override { return QString(); }
     qint64 received = 0;
     int pages = 0;
 };

@@ -11,6 +11,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
 Screen::Screen(const QString &formName, const QString &caption, QWidget *parent)
@@ -60,11 +61,21 @@ QPushButton *Screen::addCommand(
     button->setObjectName(objectName);
     button->setAccessibleName(caption.trimmed());
     button->setAutoDefault(true);
-    connect(button, &QPushButton::clicked, this, action);
+    const auto run = [this, action = std::move(action)] { runCommand(action); };
+    connect(button, &QPushButton::clicked, this, run);
     auto *shortcut = new QShortcut(key, this);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(shortcut, &QShortcut::activated, this, std::move(action));
+    connect(shortcut, &QShortcut::activated, this, run);
     return button;
+}
+
+void Screen::runCommand(const std::function<void()> &action)
+{
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (m_commandRunning || (modal && modal != window()))
+        return;
+    const QScopedValueRollback<bool> running(m_commandRunning, true);
+    action();
 }
 
 void Screen::keyPressEvent(QKeyEvent *event)

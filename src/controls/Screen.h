@@ -28,9 +28,13 @@ protected:
     void setFocusChain(std::initializer_list<QWidget *> fields);
     QLabel *labelFor(const QString &caption, QWidget *field) { return LabelFor(caption, field, this); }
     // A button that its key presses from every control of the screen, and Enter while it has
-    // the focus.
+    // the focus. Its action runs through runCommand.
     QPushButton *addCommand(
         const QString &objectName, const QString &caption, const QKeySequence &key, std::function<void()> action);
+    // Runs a command of the screen's unless one is still running or a dialog is up: a key
+    // pressed twice in a burst reaches the screen again while the first press is still handled
+    // (its rows stored, its dialog opening), and must not store the same fields twice.
+    void runCommand(const std::function<void()> &action);
     void keyPressEvent(QKeyEvent *event) override;
     // A screen is not closed while a modal dialog runs (unless it is that dialog's window): the
     // dialog lives in a call of the screen's own, which must return first.
@@ -38,4 +42,5 @@ protected:
 
 private:
     QPointer<QWidget> m_firstField;
+    bool m_commandRunning = false;
 };

@@ -79,11 +79,10 @@ void OfficialLedgerList::yazdir(int kind, int side)
     layout.carryCaption = QStringLiteral("Nakli Yekun :");
     layout.boldTotals = true;
     const QString document = income ? QStringLiteral("SM Defteri (Gelir)") : QStringLiteral("SM Defteri (Gider)");
-    if (!PrintPagedReport(kind, document, std::move(layout), [this](PagedReport &report) {
-            for (const QVariantList &row : m_rows)
-                report.printRow(row);
-        }))
-        Message::exclamation(QStringLiteral("Yazıcı Açılamadı"));
+    PrintPagedReport(kind, document, std::move(layout), [this](PagedReport &report) {
+        for (const QVariantList &row : m_rows)
+            report.printRow(row);
+    });
 }
 
 // The title with its side, the holder's name and, when asked for, the page number.

@@ -9,11 +9,16 @@ class CupsRawChannel : public RawChannel
 public:
     bool open(const QString &printer, const QString &title) override;
     bool write(const QByteArray &bytes) override;
-    bool newPage() override { return m_job != 0; }
-    bool endPage() override { return m_job != 0; }
+    bool newPage() override { return isOpen(); }
+    bool endPage() override { return isOpen(); }
     bool close() override;
+    QString failure() const override { return m_failure; }
 
 private:
+    bool fail(const QString &why);
+    bool isOpen();
+
     QByteArray m_printer;
     int m_job = 0;
+    QString m_failure;
 };

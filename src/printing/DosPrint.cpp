@@ -10,6 +10,17 @@ struct Channel
 {
     std::unique_ptr<RawChannel> channel = std::make_unique<CupsRawChannel>();
     bool lastResult = false;
+    QString printer;
+    QString failure;
+
+    // Keeps a call's result, and the first failure of the job.
+    bool take(bool result)
+    {
+        lastResult = result;
+        if (!result && failure.isEmpty())
+            failure = channel->failure();
+        return result;
+    }
 };
 
 Channel &module()
@@ -23,33 +34,44 @@ Channel &module()
 bool OpenDosPrinter()
 {
     Channel &state = module();
-    state.lastResult = state.channel->open(CurrentPrinterName(), printSettings().title);
-    return state.lastResult;
+    state.printer = CurrentPrinterName();
+    state.failure.clear();
+    return state.take(state.channel->open(state.printer, printSettings().title));
 }
 
 void DosPrint(const QByteArray &bytes)
 {
-    module().lastResult = module().channel->write(bytes);
+    module().take(module().channel->write(bytes));
 }
 
 void DosNewPage()
 {
-    module().lastResult = module().channel->newPage();
+    module().take(module().channel->newPage());
 }
 
 void DosEndPage()
 {
-    module().lastResult = module().channel->endPage();
+    module().take(module().channel->endPage());
 }
 
 void CloseDosPrinter()
 {
-    module().lastResult = module().channel->close();
+    module().take(module().channel->close());
 }
 
 bool DosLastResult()
 {
     return module().lastResult;
+}
+
+QString DosPrinterName()
+{
+    return module().printer;
+}
+
+QString DosFailure()
+{
+    return module().failure;
 }
 
 void SetRawChannel(std::unique_ptr<RawChannel> channel)

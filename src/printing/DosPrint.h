@@ -15,6 +15,10 @@ void DosEndPage();
 void CloseDosPrinter();
 // The result of the last spooler call.
 bool DosLastResult();
+// The printer of the present (or last) job, and why its first failed call failed ("" when none
+// did).
+QString DosPrinterName();
+QString DosFailure();
 
 // Replaces the spooler channel (tests record what would be printed); nullptr restores it.
 void SetRawChannel(std::unique_ptr<RawChannel> channel);

@@ -2,6 +2,8 @@
 
 #include "printing/CupsPrinters.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrintPreviewDialog>
@@ -66,9 +68,11 @@ void GraphicDocument::drawRule(const QLine &rule)
         m_pages.back().push_back(Item { QRect(), rule, Qt::Alignment(), QFont(), QString(), true });
 }
 
-void GraphicDocument::play(QPrinter *printer) const
+bool GraphicDocument::play(QPrinter *printer) const
 {
-    QPainter painter(printer);
+    QPainter painter;
+    if (!painter.begin(printer))
+        return false;
     for (size_t i = 0; i < m_pages.size(); ++i) {
         if (i > 0)
             printer->newPage();
@@ -83,6 +87,27 @@ void GraphicDocument::play(QPrinter *printer) const
             painter.setClipping(false);
         }
     }
+    return painter.end() && (!toFile() || QFileInfo(m_printer->outputFileName()).size() > 0);
+}
+
+bool GraphicDocument::toFile() const
+{
+    return m_printer->outputFormat() == QPrinter::PdfFormat;
+}
+
+QString GraphicDocument::destination() const
+{
+    return toFile() ? QStringLiteral("Dosya: ") + m_printer->outputFileName()
+                    : QStringLiteral("Yazıcı: ") + m_printer->printerName();
+}
+
+QString GraphicDocument::whyNotWritten() const
+{
+    if (toFile())
+        return QFileInfo(m_printer->outputFileName()).absoluteDir().exists() ? QStringLiteral("dosya yazılamadı")
+                                                                             : QStringLiteral("klasör bulunamadı");
+    return InstalledPrinters().contains(m_printer->printerName()) ? QStringLiteral("yazıcı açılamadı")
+                                                                  : QStringLiteral("yazıcı bulunamadı");
 }
 
 bool GraphicDocument::finish()
@@ -98,8 +123,8 @@ bool GraphicDocument::finish()
         preview.exec();
         return true;
     }
-    if (!m_printer->isValid())
-        return false;
-    play(m_printer.get());
-    return true;
+    if (m_printer->isValid() && play(m_printer.get()))
+        return true;
+    m_failure = whyNotWritten();
+    return false;
 }

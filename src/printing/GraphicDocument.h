@@ -33,8 +33,11 @@ public:
     // Text in a field, one line, clipped to the field.
     void drawText(const QRect &field, Qt::Alignment alignment, const QFont &font, const QString &text);
     void drawRule(const QLine &rule);
-    // Sends the pages out; false when the target cannot be written.
+    // Sends the pages out; false when the target cannot be written (failure() says why).
     bool finish();
+    // Where the pages go, as the user names it: "Dosya: …" or "Yazıcı: …".
+    QString destination() const;
+    QString failure() const { return m_failure; }
 
 private:
     struct Item
@@ -47,10 +50,14 @@ private:
         bool isRule = false;
     };
     using Page = std::vector<Item>;
-    void play(QPrinter *printer) const;
+    // Draws the pages on the printer; false when it could not be begun or written.
+    bool play(QPrinter *printer) const;
+    bool toFile() const;
+    QString whyNotWritten() const;
 
     std::unique_ptr<QPrinter> m_printer;
     PrintSettings::GraphicTarget m_target;
     std::vector<Page> m_pages;
     bool m_pageOpen = false;
+    QString m_failure;
 };

@@ -169,15 +169,14 @@ QStringList PagedReport::totalTexts() const
     return texts;
 }
 
-bool PrintPagedReport(
+void PrintPagedReport(
     int kind, const QString &document, ReportLayout layout, const std::function<void(PagedReport &report)> &rows)
 {
     Prnx prnx;
     if (!prnx.OpenPrinter(kind, document, true))
-        return false;
+        return;
     PagedReport report(prnx, std::move(layout));
     rows(report);
     report.finish();
     prnx.ClosePrinter();
-    return true;
 }

@@ -80,7 +80,7 @@ private:
 };
 
 // The whole printout of a paged list: opens the print engine of kind (Prnx::Graphic or Prnx::Raw,
-// condensed) for the document, gives the report to rows to print them, finishes and closes.
-// False when the printer did not open.
-bool PrintPagedReport(
+// condensed) for the document, gives the report to rows to print them, finishes and closes. The
+// engine says when the printer did not open.
+void PrintPagedReport(
     int kind, const QString &document, ReportLayout layout, const std::function<void(PagedReport &report)> &rows);

@@ -26,8 +26,11 @@ bool Prnx::OpenPrinter(int printertip, const QString &wPDocname, bool Condanced,
         return openGraphic(wPDocname);
     case Raw:
         m_line = Condanced ? QByteArray("\x0f") : QByteArray();
-        if (!OpenDosPrinter())
-            return false; // the engine stays closed: nothing may be written to the channel
+        if (!OpenDosPrinter()) { // the engine stays closed: nothing may be written to the channel
+            reportFailure(
+                QStringLiteral("Yazıcı Açılamadı"), QStringLiteral("Yazıcı: ") + DosPrinterName(), DosFailure());
+            return false;
+        }
         m_kind = Raw;
         return true;
     case 3:
@@ -63,12 +66,20 @@ void Prnx::ClosePrinter()
         m_overflows.clear();
     }
     if (m_kind == Graphic) {
-        m_document->finish();
+        if (!m_document->finish())
+            reportFailure(QStringLiteral("Yazdırılamadı"), m_document->destination(), m_document->failure());
         m_document.reset();
     } else if (m_kind == Raw) {
         CloseDosPrinter();
+        if (!DosFailure().isEmpty())
+            reportFailure(QStringLiteral("Yazdırılamadı"), QStringLiteral("Yazıcı: ") + DosPrinterName(), DosFailure());
     }
     m_kind = Closed;
+}
+
+void Prnx::reportFailure(const QString &what, const QString &destination, const QString &why)
+{
+    Message::exclamation(what + u'\n' + destination + QStringLiteral("\nNeden: ") + why);
 }
 
 void Prnx::CloseSurekliBaski()

@@ -49,6 +49,8 @@ public:
 
 private:
     bool openGraphic(const QString &name);
+    // A printout that was not made: what failed, where the pages were to go, and why.
+    static void reportFailure(const QString &what, const QString &destination, const QString &why);
     void rawOutput(const QString &text, bool lineEnd, bool bold, bool italic, bool underline);
     void drawField(const QString &text, int en, int algn, bool bold, bool italic, bool underline, bool strikeOut);
     void advance(bool lineFeed);

@@ -14,4 +14,6 @@ public:
     virtual bool newPage() = 0;
     virtual bool endPage() = 0;
     virtual bool close() = 0;
+    // Why the last call that answered false failed, in the user's words.
+    virtual QString failure() const = 0;
 };

@@ -426,7 +426,7 @@ void TestOfficialLedger::printerThatDoesNotOpen()
     AnswerPrinterSetup("Command4", this);
     m_screen->print();
     SetRawChannel(nullptr);
-    QCOMPARE(m_kit->messages().texts(), QStringList { "Yazıcı Açılamadı" });
+    QCOMPARE(m_kit->messages().texts(), QStringList { "Yazıcı Açılamadı\nYazıcı: defter\nNeden: yazıcı bulunamadı" });
     QVERIFY(log.writes.isEmpty());
 }
 

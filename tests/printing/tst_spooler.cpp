@@ -3,6 +3,7 @@
 #include "printing/PrintSettings.h"
 #include "printing/PrinterSetupDialog.h"
 #include "printing/Prnx.h"
+#include "testsupport/MessageLog.h"
 #include "testsupport/PrivateSpooler.h"
 
 #include <QCheckBox>
@@ -29,6 +30,8 @@ private slots:
     void unknownPrinterOpensNothing();
     void printerReceivesExactBytes();
     void continuousPrintingIsOneJob();
+    void printoutNotMadeSaysWhy_data();
+    void printoutNotMadeSaysWhy();
     void receiptPresetIsShown();
     void cancelKeepsThePreset();
     void graphicGreysTheLines();
@@ -159,6 +162,40 @@ void TestSpooler::printerReceivesExactBytes()
     const QByteArray expected("\x0f\x9e\x98\x9e\x4c\x98\x20\x80\x41\xa6\r\n\x1bG   AB\x1bH\r\n");
     QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()), expected, 20000);
     QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("S.M. Makbuzu")));
+}
+
+void TestSpooler::printoutNotMadeSaysWhy_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("pdfFile");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("PDF in a folder that is not there")
+        << int(Prnx::Graphic) << "/yok/klasör/Kasa.pdf"
+        << "Yazdırılamadı\nDosya: /yok/klasör/Kasa.pdf\nNeden: klasör bulunamadı";
+    QTest::newRow("raw job refused") << int(Prnx::Raw) << ""
+                                     << "Yazıcı Açılamadı\nYazıcı: nokta\nNeden: yazıcı kuyruğu işi kabul etmedi";
+}
+
+// The PDF file cannot be written, or the spooler takes no jobs: nothing claims to have printed.
+void TestSpooler::printoutNotMadeSaysWhy()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, pdfFile);
+    QFETCH(QString, message);
+    MessageLog messages;
+    printSettings().target = PrintSettings::GraphicTarget::PdfFile;
+    printSettings().pdfFile = pdfFile;
+    QVERIFY(m_spooler->acceptJobs(QStringLiteral("nokta"), false));
+    Prnx prnx;
+    if (prnx.OpenPrinter(kind, QStringLiteral("Kasa"))) {
+        prnx.YeniSayfa();
+        prnx.Lprint(QStringLiteral("Kasa Defteri"), 0, true);
+        prnx.SayfaBitti(true);
+        prnx.ClosePrinter();
+    }
+    QVERIFY(m_spooler->acceptJobs(QStringLiteral("nokta"), true));
+    QCOMPARE(messages.texts(), QStringList { message });
+    QVERIFY(!QFile::exists(pdfFile));
 }
 
 void TestSpooler::continuousPrintingIsOneJob()

@@ -14,6 +14,7 @@
 #include "testsupport/Books.h"
 #include "testsupport/EsmmSamples.h"
 #include "testsupport/ExpectedPage.h"
+#include "testsupport/KeyBurst.h"
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
@@ -29,6 +30,8 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -87,6 +90,8 @@ private slots:
     void depositFormOnTheDotMatrixPrinter();
     void depositFormAsPdf();
     void esmmImportThroughItsKeys();
+    void aKeyPressedTwiceActsOnce_data();
+    void aKeyPressedTwiceActsOnce();
 
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
@@ -643,6 +648,39 @@ void TestReceiptScreen::esmmImportThroughItsKeys()
     QPointer<EsmmImportScreen> open = screen;
     QTest::keyClick(list->view(), Qt::Key_Escape);
     QTRY_VERIFY(open.isNull());
+}
+
+void TestReceiptScreen::aKeyPressedTwiceActsOnce_data()
+{
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("dialogs");
+    QTest::addColumn<QString>("postings");
+    QTest::newRow("receipt, store and print") << u"mnumkb"_s << int(Qt::Key_F5) << 1 << u"1"_s;
+    QTest::newRow("receipt, print") << u"mnumkb"_s << int(Qt::Key_F8) << 1 << u"0"_s;
+    QTest::newRow("deposit, store") << u"mnuemanet"_s << int(Qt::Key_F5) << 0 << u"1"_s;
+    QTest::newRow("deposit, print") << u"mnuemanet"_s << int(Qt::Key_F8) << 1 << u"0"_s;
+    QTest::newRow("e-SMM, choose files") << u"mnuesmm"_s << int(Qt::Key_F2) << 1 << u"0"_s;
+}
+
+// The second press of a burst comes while the first still runs: one posting, one dialog.
+void TestReceiptScreen::aKeyPressedTwiceActsOnce()
+{
+    QFETCH(QString, item);
+    QFETCH(int, key);
+    QFETCH(int, dialogs);
+    QFETCH(QString, postings);
+    if (item == u"mnumkb") {
+        chooseAccount();
+    } else if (item == u"mnuemanet") {
+        QVERIFY(openDeposit());
+        fillDeposit();
+    } else {
+        m_kit->window().menuItem(item)->trigger();
+    }
+    KeyBurst burst(&m_kit->window(), key);
+    QCOMPARE(burst.press(), dialogs);
+    QCOMPARE(QueryTexts(u"SELECT count(*) AS n FROM carhar"_s, u"n"_s), QStringList { postings });
 }
 
 QTEST_MAIN(TestReceiptScreen)

@@ -124,6 +124,11 @@ bool PrivateSpooler::removeQueue(const QString &name)
     return run(QStringLiteral("lpadmin"), { QStringLiteral("-x"), name });
 }
 
+bool PrivateSpooler::acceptJobs(const QString &name, bool accept)
+{
+    return run(accept ? QStringLiteral("cupsaccept") : QStringLiteral("cupsreject"), { name });
+}
+
 QStringList PrivateSpooler::jobTitles() const
 {
     cups_job_t *jobs = nullptr;

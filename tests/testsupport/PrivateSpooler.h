@@ -26,6 +26,8 @@ public:
     // Adds a raw queue on the listener, the spooler's default unless told otherwise.
     bool addQueue(const QString &name, bool asDefault = true);
     bool removeQueue(const QString &name);
+    // Makes a queue refuse new jobs, or take them again.
+    bool acceptJobs(const QString &name, bool accept);
     // The bytes received so far, over all connections.
     QByteArray received() const { return m_received; }
     // Runs print and answers the bytes that reach the printer for it, once they stop coming

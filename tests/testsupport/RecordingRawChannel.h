@@ -26,6 +26,7 @@ public:
     bool newPage() override;
     bool endPage() override;
     bool close() override;
+    QString failure() const override { return QStringLiteral("yazıcı bulunamadı"); }
 
 private:
     Log *m_log;
