@@ -17,155 +17,147 @@ class TestMainWindow : public QObject
 {
     Q_OBJECT
 private slots:
-    void menuIsExactlyTheProgramsMenu();
-    void itemsWaitForTheirScreens();
-    void aScreenOpensOnceAndComesForward();
-    void splashGivesWayToTheMainWindow();
-    void valueLabelsReadAsTheyShow();
-    void screenOutlivesItsPrinterDialog_data();
-    void screenOutlivesItsPrinterDialog();
-};
-
-void TestMainWindow::menuIsExactlyTheProgramsMenu()
-{
-    MainWindow window;
-    QCOMPARE(window.objectName(), QStringLiteral("anamenu"));
-    QCOMPARE(window.windowTitle(), QStringLiteral("Serbest Meslek "));
-    QStringList menu;
-    for (QAction *top : window.menuBar()->actions()) {
-        menu << top->menu()->objectName() + u' ' + top->text();
-        for (QAction *item : top->menu()->actions())
-            menu << QStringLiteral("  ") + item->objectName() + u' '
-                    + (item->isSeparator() ? QStringLiteral("-") : item->text());
+    void menuIsExactlyTheProgramsMenu()
+    {
+        MainWindow window;
+        QCOMPARE(window.objectName(), QStringLiteral("anamenu"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Serbest Meslek "));
+        QStringList menu;
+        for (QAction *top : window.menuBar()->actions()) {
+            menu << top->menu()->objectName() + u' ' + top->text();
+            for (QAction *item : top->menu()->actions())
+                menu << QStringLiteral("  ") + item->objectName() + u' '
+                        + (item->isSeparator() ? QStringLiteral("-") : item->text());
+        }
+        const QStringList expected = { "mnucari &Cari", "  mnucarkart Cari &Kartlar", "  mnubos1 -",
+            "  mnucarhar Cari &Hareketler", "  mnubos2 -", "  mnucareks Cari Hareket Dökümü", "  mnubos71 -",
+            "  mnugbor Genel &Borç Alacak Listesi", "mnuislem &Işlemler", "  mnukasa Kasa", "  mnubos7 -",
+            "  mnumkb Serbest Meslek &Makbuzu", "  mnubos4 -", "  mnuemanet &Emanet Makbuzu", "  mnubos11 -",
+            "  mnuesmm e-SMM &Aktar", "mnudefter &Defter", "  mnusdef Serbest Meslek Defteri", "  mnubos6 -",
+            "  mnukdv Kdv, Stopaj Raporu", "  mnubos10 -", "  mnustoplst Stopaj Listesi", "  mnubos8 -",
+            "  mnuresmi Resmi Defter Çekimi", "mnuayar Ayar", "  mnuayarlar Ayarlar", "  mnubos9 -",
+            "  mnudiz Makbuz Dizayn" };
+        QCOMPARE(menu, expected);
     }
-    const QStringList expected
-        = { "mnucari &Cari", "  mnucarkart Cari &Kartlar", "  mnubos1 -", "  mnucarhar Cari &Hareketler", "  mnubos2 -",
-              "  mnucareks Cari Hareket Dökümü", "  mnubos71 -", "  mnugbor Genel &Borç Alacak Listesi",
-              "mnuislem &Işlemler", "  mnukasa Kasa", "  mnubos7 -", "  mnumkb Serbest Meslek &Makbuzu", "  mnubos4 -",
-              "  mnuemanet &Emanet Makbuzu", "  mnubos11 -", "  mnuesmm e-SMM &Aktar", "mnudefter &Defter",
-              "  mnusdef Serbest Meslek Defteri", "  mnubos6 -", "  mnukdv Kdv, Stopaj Raporu", "  mnubos10 -",
-              "  mnustoplst Stopaj Listesi", "  mnubos8 -", "  mnuresmi Resmi Defter Çekimi", "mnuayar Ayar",
-              "  mnuayarlar Ayarlar", "  mnubos9 -", "  mnudiz Makbuz Dizayn" };
-    QCOMPARE(menu, expected);
-}
 
-void TestMainWindow::itemsWaitForTheirScreens()
-{
-    MainWindow window;
-    QAction *item = window.menuItem(QStringLiteral("mnukasa"));
-    QVERIFY(item);
-    QVERIFY(!item->isEnabled());
-    window.addScreen(QStringLiteral("mnukasa"), [] { return new QWidget; });
-    QVERIFY(item->isEnabled());
-}
-
-void TestMainWindow::aScreenOpensOnceAndComesForward()
-{
-    MainWindow window;
-    window.show();
-    int made = 0;
-    QPointer<QWidget> last;
-    window.addScreen(QStringLiteral("mnukasa"), [&made, &last] {
-        ++made;
-        auto *screen = new QWidget;
-        last = screen;
-        screen->setWindowTitle(QStringLiteral("Kasa"));
-        return screen;
-    });
-    window.addScreen(QStringLiteral("mnuayarlar"), [] { return new QWidget; });
-    window.menuItem(QStringLiteral("mnukasa"))->trigger();
-    window.menuItem(QStringLiteral("mnuayarlar"))->trigger();
-    QCOMPARE(window.area()->subWindowList().size(), 2);
-    window.menuItem(QStringLiteral("mnukasa"))->trigger();
-    QCOMPARE(made, 1);
-    QCOMPARE(window.area()->subWindowList().size(), 2);
-    QCOMPARE(window.area()->activeSubWindow()->widget()->windowTitle(), QStringLiteral("Kasa"));
-
-    window.area()->activeSubWindow()->close(); // a closed screen is made afresh next time
-    QTRY_VERIFY(!last);
-    QCOMPARE(window.area()->subWindowList().size(), 1);
-    window.menuItem(QStringLiteral("mnukasa"))->trigger();
-    QCOMPARE(made, 2);
-}
-
-void TestMainWindow::splashGivesWayToTheMainWindow()
-{
-    MessageLog messages;
-    QTemporaryDir dir;
-    QVERIFY(OpenBooks(dir.path()));
-    StartRoutine start(200);
-    start.showSplash();
-    QVERIFY(start.splash());
-    QCOMPARE(start.splash()->windowTitle(), QStringLiteral("Serbest Meslek "));
-    QCOMPARE(start.splash()->size(), QSize(300, 170));
-    QVERIFY(!start.mainWindow());
-    QTRY_VERIFY(start.mainWindow() && start.mainWindow()->isVisible());
-    QTRY_VERIFY(!start.splash());
-}
-
-// Every screen's value labels, empty or not, read as what they show (and say what they are), and
-// show it whole.
-void TestMainWindow::valueLabelsReadAsTheyShow()
-{
-    ScreenFixture kit;
-    QVERIFY(kit.isReady());
-    for (QAction *top : kit.window().menuBar()->actions())
-        for (QAction *item : top->menu()->actions())
-            if (!item->isSeparator() && item->objectName() != u"mnudiz")
-                item->trigger();
-    const QList<ValueLabel *> labels = kit.window().findChildren<ValueLabel *>();
-    QVERIFY(labels.size() > 20);
-    for (ValueLabel *label : labels) {
-        QAccessibleInterface *read = QAccessible::queryAccessibleInterface(label);
-        QVERIFY(read);
-        QCOMPARE(read->text(QAccessible::Name), label->text());
-        QVERIFY(!read->text(QAccessible::Description).isEmpty());
+    void itemsWaitForTheirScreens()
+    {
+        MainWindow window;
+        QAction *item = window.menuItem(QStringLiteral("mnukasa"));
+        QVERIFY(item);
+        QVERIFY(!item->isEnabled());
+        window.addScreen(QStringLiteral("mnukasa"), [] { return new QWidget; });
+        QVERIFY(item->isEnabled());
     }
-    // The widest amount a label may show is shown whole on every screen.
-    const QString widest = QStringLiteral("-922,337,203,685,477.58 B");
-    for (ValueLabel *label : labels)
-        label->setValue(widest);
-    QTest::qWait(200);
-    for (ValueLabel *label : labels)
-        QVERIFY2(label->contentsRect().width() >= label->fontMetrics().horizontalAdvance(widest),
-            qPrintable(label->accessibleDescription()));
-}
 
-void TestMainWindow::screenOutlivesItsPrinterDialog_data()
-{
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<QString>("form");
-    QTest::newRow("Genel Borç Alacak Listesi") << "mnugbor"
-                                               << "Form10";
-    QTest::newRow("Cari Hareket Dökümü") << "mnucareks"
-                                         << "Form16";
-    QTest::newRow("Kasa") << "mnukasa"
-                          << "Form7";
-}
+    void aScreenOpensOnceAndComesForward()
+    {
+        MainWindow window;
+        window.show();
+        int made = 0;
+        QPointer<QWidget> last;
+        window.addScreen(QStringLiteral("mnukasa"), [&made, &last] {
+            ++made;
+            auto *screen = new QWidget;
+            last = screen;
+            screen->setWindowTitle(QStringLiteral("Kasa"));
+            return screen;
+        });
+        window.addScreen(QStringLiteral("mnuayarlar"), [] { return new QWidget; });
+        window.menuItem(QStringLiteral("mnukasa"))->trigger();
+        window.menuItem(QStringLiteral("mnuayarlar"))->trigger();
+        QCOMPARE(window.area()->subWindowList().size(), 2);
+        window.menuItem(QStringLiteral("mnukasa"))->trigger();
+        QCOMPARE(made, 1);
+        QCOMPARE(window.area()->subWindowList().size(), 2);
+        QCOMPARE(window.area()->activeSubWindow()->widget()->windowTitle(), QStringLiteral("Kasa"));
 
-// F8 and at once Ctrl+W: the close reaches the screen while its printer dialog runs.
-void TestMainWindow::screenOutlivesItsPrinterDialog()
-{
-    QFETCH(QString, item);
-    QFETCH(QString, form);
-    ScreenFixture kit;
-    QVERIFY(kit.isReady());
-    QPointer<QWidget> screen = kit.open<QWidget>(qPrintable(item), qPrintable(form));
-    QVERIFY(screen);
-    bool outlived = false;
-    QTimer::singleShot(0, this, [&] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        QVERIFY(dialog);
+        window.area()->activeSubWindow()->close(); // a closed screen is made afresh next time
+        QTRY_VERIFY(!last);
+        QCOMPARE(window.area()->subWindowList().size(), 1);
+        window.menuItem(QStringLiteral("mnukasa"))->trigger();
+        QCOMPARE(made, 2);
+    }
+
+    void splashGivesWayToTheMainWindow()
+    {
+        MessageLog messages;
+        QTemporaryDir dir;
+        QVERIFY(OpenBooks(dir.path()));
+        StartRoutine start(200);
+        start.showSplash();
+        QVERIFY(start.splash());
+        QCOMPARE(start.splash()->windowTitle(), QStringLiteral("Serbest Meslek "));
+        QCOMPARE(start.splash()->size(), QSize(300, 170));
+        QVERIFY(!start.mainWindow());
+        QTRY_VERIFY(start.mainWindow() && start.mainWindow()->isVisible());
+        QTRY_VERIFY(!start.splash());
+    }
+
+    // Every screen's value labels, empty or not, read as what they show (and say what they are), and
+    // show it whole.
+    void valueLabelsReadAsTheyShow()
+    {
+        ScreenFixture kit;
+        QVERIFY(kit.isReady());
+        for (QAction *top : kit.window().menuBar()->actions())
+            for (QAction *item : top->menu()->actions())
+                if (!item->isSeparator() && item->objectName() != u"mnudiz")
+                    item->trigger();
+        const QList<ValueLabel *> labels = kit.window().findChildren<ValueLabel *>();
+        QVERIFY(labels.size() > 20);
+        for (ValueLabel *label : labels) {
+            QAccessibleInterface *read = QAccessible::queryAccessibleInterface(label);
+            QVERIFY(read);
+            QCOMPARE(read->text(QAccessible::Name), label->text());
+            QVERIFY(!read->text(QAccessible::Description).isEmpty());
+        }
+        // The widest amount a label may show is shown whole on every screen.
+        const QString widest = QStringLiteral("-922,337,203,685,477.58 B");
+        for (ValueLabel *label : labels)
+            label->setValue(widest);
+        QTest::qWait(200);
+        for (ValueLabel *label : labels)
+            QVERIFY2(label->contentsRect().width() >= label->fontMetrics().horizontalAdvance(widest),
+                qPrintable(label->accessibleDescription()));
+    }
+
+    void screenOutlivesItsPrinterDialog_data()
+    {
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QString>("form");
+        QTest::newRow("Genel Borç Alacak Listesi") << "mnugbor"
+                                                   << "Form10";
+        QTest::newRow("Cari Hareket Dökümü") << "mnucareks"
+                                             << "Form16";
+        QTest::newRow("Kasa") << "mnukasa"
+                              << "Form7";
+    }
+
+    // F8 and at once Ctrl+W: the close reaches the screen while its printer dialog runs.
+    void screenOutlivesItsPrinterDialog()
+    {
+        QFETCH(QString, item);
+        QFETCH(QString, form);
+        ScreenFixture kit;
+        QVERIFY(kit.isReady());
+        QPointer<QWidget> screen = kit.open<QWidget>(qPrintable(item), qPrintable(form));
+        QVERIFY(screen);
+        bool outlived = false;
+        QTimer::singleShot(0, this, [&] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            QVERIFY(dialog);
+            qobject_cast<QMdiSubWindow *>(screen->parentWidget())->close();
+            outlived = !screen.isNull() && screen->isVisible();
+            dialog->findChild<QPushButton *>(QStringLiteral("Command5"))->click(); // "Vazgeç"
+        });
+        QTest::keyClick(screen->focusWidget(), Qt::Key_F8);
+        QVERIFY(outlived);
+        QVERIFY(screen);
         qobject_cast<QMdiSubWindow *>(screen->parentWidget())->close();
-        outlived = !screen.isNull() && screen->isVisible();
-        dialog->findChild<QPushButton *>(QStringLiteral("Command5"))->click(); // "Vazgeç"
-    });
-    QTest::keyClick(screen->focusWidget(), Qt::Key_F8);
-    QVERIFY(outlived);
-    QVERIFY(screen);
-    qobject_cast<QMdiSubWindow *>(screen->parentWidget())->close();
-    QTRY_VERIFY(screen.isNull()); // with the dialog gone it closes
-}
+        QTRY_VERIFY(screen.isNull()); // with the dialog gone it closes
+    }
+};
 
 QTEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"

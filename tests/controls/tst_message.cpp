@@ -13,9 +13,69 @@ class TestMessage : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void boxes_data();
-    void boxes();
+    void initTestCase()
+    {
+        QVERIFY(LoadQtTranslations());
+        Message::setResponder(ShowMessageBox);
+    }
+
+    void boxes_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("icon");
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addColumn<QString>("pressedByEnter");
+        QTest::newRow("exclamation") << int(Message::Kind::Exclamation) << int(QMessageBox::Warning)
+                                     << QStringList { "Tamam" } << "Tamam";
+        QTest::newRow("information") << int(Message::Kind::Information) << int(QMessageBox::Information)
+                                     << QStringList { "Tamam" } << "Tamam";
+        QTest::newRow("notice") << int(Message::Kind::Notice) << int(QMessageBox::Question) << QStringList { "Tamam" }
+                                << "Tamam";
+        QTest::newRow("question") << int(Message::Kind::Question) << int(QMessageBox::Question)
+                                  << QStringList { "&Evet", "&Hayır" } << "&Hayır";
+    }
+
+    void boxes()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, icon);
+        QFETCH(QStringList, buttons);
+        QFETCH(QString, pressedByEnter);
+        m_buttons.clear();
+        QTimer::singleShot(0, this, [this] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            m_title = box->windowTitle();
+            m_icon = int(box->icon());
+            for (QAbstractButton *button : box->buttons())
+                m_buttons << button->text();
+            m_buttons.sort();
+            m_default = box->defaultButton() ? box->defaultButton()->text() : QString();
+            QTimer::singleShot(0, box, [box] { QTest::keyClick(box, Qt::Key_Return); });
+        });
+        bool answer = true;
+        switch (Message::Kind(kind)) {
+        case Message::Kind::Exclamation:
+            Message::exclamation(QStringLiteral("Yazıcı Açılamadı"));
+            break;
+        case Message::Kind::Information:
+            Message::information(QStringLiteral("Kayıt Yapılamıyor."));
+            break;
+        case Message::Kind::Notice:
+            Message::notice(QStringLiteral("Tutar Yazılmamış.."));
+            break;
+        case Message::Kind::Question:
+            answer = Message::question(QStringLiteral("Kayıt Silinecek Eminmisiniz ?"));
+            break;
+        }
+        QCOMPARE(m_title, QStringLiteral("Quandel"));
+        QCOMPARE(m_icon, icon);
+        QCOMPARE(m_buttons, buttons);
+        if (Message::Kind(kind) == Message::Kind::Question) {
+            QCOMPARE(m_default, pressedByEnter);
+            QVERIFY(!answer); // Enter answered "Hayır"
+        }
+    }
 
 private:
     QStringList m_buttons;
@@ -23,70 +83,6 @@ private:
     QString m_title;
     int m_icon = 0;
 };
-
-void TestMessage::initTestCase()
-{
-    QVERIFY(LoadQtTranslations());
-    Message::setResponder(ShowMessageBox);
-}
-
-void TestMessage::boxes_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("icon");
-    QTest::addColumn<QStringList>("buttons");
-    QTest::addColumn<QString>("pressedByEnter");
-    QTest::newRow("exclamation") << int(Message::Kind::Exclamation) << int(QMessageBox::Warning)
-                                 << QStringList { "Tamam" } << "Tamam";
-    QTest::newRow("information") << int(Message::Kind::Information) << int(QMessageBox::Information)
-                                 << QStringList { "Tamam" } << "Tamam";
-    QTest::newRow("notice") << int(Message::Kind::Notice) << int(QMessageBox::Question) << QStringList { "Tamam" }
-                            << "Tamam";
-    QTest::newRow("question") << int(Message::Kind::Question) << int(QMessageBox::Question)
-                              << QStringList { "&Evet", "&Hayır" } << "&Hayır";
-}
-
-void TestMessage::boxes()
-{
-    QFETCH(int, kind);
-    QFETCH(int, icon);
-    QFETCH(QStringList, buttons);
-    QFETCH(QString, pressedByEnter);
-    m_buttons.clear();
-    QTimer::singleShot(0, this, [this] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        QVERIFY(box);
-        m_title = box->windowTitle();
-        m_icon = int(box->icon());
-        for (QAbstractButton *button : box->buttons())
-            m_buttons << button->text();
-        m_buttons.sort();
-        m_default = box->defaultButton() ? box->defaultButton()->text() : QString();
-        QTimer::singleShot(0, box, [box] { QTest::keyClick(box, Qt::Key_Return); });
-    });
-    bool answer = true;
-    switch (Message::Kind(kind)) {
-    case Message::Kind::Exclamation:
-        Message::exclamation(QStringLiteral("Yazıcı Açılamadı"));
-        break;
-    case Message::Kind::Information:
-        Message::information(QStringLiteral("Kayıt Yapılamıyor."));
-        break;
-    case Message::Kind::Notice:
-        Message::notice(QStringLiteral("Tutar Yazılmamış.."));
-        break;
-    case Message::Kind::Question:
-        answer = Message::question(QStringLiteral("Kayıt Silinecek Eminmisiniz ?"));
-        break;
-    }
-    QCOMPARE(m_title, QStringLiteral("Quandel"));
-    QCOMPARE(m_icon, icon);
-    QCOMPARE(m_buttons, buttons);
-    if (Message::Kind(kind) == Message::Kind::Question) {
-        QCOMPARE(m_default, pressedByEnter);
-        QVERIFY(!answer); // Enter answered "Hayır"
-    }
-}
 
 QTEST_MAIN(TestMessage)
 #include "tst_message.moc"

@@ -27,350 +27,324 @@ class TestXText : public QObject
 {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
-    void numberEntry_data();
-    void numberEntry();
-    void numberDisplay_data();
-    void numberDisplay();
-    void dateEntry_data();
-    void dateEntry();
-    void dateTips_data();
-    void dateTips();
-    void dateChangeComesBeforeTheDigit();
-    void everyNumberKeyIsAChange();
-    void enterDownAndUpMoveTheFocus_data();
-    void enterDownAndUpMoveTheFocus();
-    void deleteClears_data();
-    void deleteClears();
-    void functionKeyTwo_data();
-    void functionKeyTwo();
-    void screenCanTakeAKey();
-    void lockedNumberRefusesTyping();
-    void counterFromTheStoredDesign();
-    void textFieldKeepsItsLimit();
+    void init()
+    {
+        amountConventions() = AmountConventions();
+        m_window = std::make_unique<FieldHarness>();
+        m_window->show();
+        QApplication::setActiveWindow(m_window.get());
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void numberEntry_data()
+    {
+        QTest::addColumn<double>("maximum");
+        QTest::addColumn<int>("decimals");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<double>("value");
+        QTest::newRow("more decimals than shown") << 1e9 << 2 << "12.345"
+                                                  << "12.35" << 12.345;
+        QTest::newRow("largest value 0 takes no digit") << 0.0 << 0 << "123"
+                                                        << "" << 0.0;
+        QTest::newRow("plus appends 000 past the largest value") << 5.0 << 0 << "5+"
+                                                                 << "5,000" << 5000.0;
+        QTest::newRow("digit beyond the largest value") << 99.0 << 0 << "123"
+                                                        << "12" << 12.0;
+        QTest::newRow("point refused after Backspace took it") << 1e9 << 2 << "12.\b.5"
+                                                               << "125.00" << 125.0;
+        QTest::newRow("point with no decimals") << 1e9 << 0 << "1.5"
+                                                << "15" << 15.0;
+        QTest::newRow("comma is the point") << 1e9 << 2 << "1,5"
+                                            << "1.50" << 1.5;
+        QTest::newRow("grouped") << 1e9 << 2 << "1234567"
+                                 << "1,234,567.00" << 1234567.0;
+        QTest::newRow("no leading zero") << 1e9 << 2 << ".5"
+                                         << ".50" << 0.5;
+        QTest::newRow("letters refused") << 1e9 << 0 << "1a2"
+                                         << "12" << 12.0;
+        QTest::newRow("backspace to nothing") << 1e9 << 0 << "1\b"
+                                              << "" << 0.0;
+        QTest::newRow("backspace keeps the rest") << 1e9 << 2 << "12.5\b\b\b"
+                                                  << "1.00" << 1.0;
+    }
+
+    void numberEntry()
+    {
+        QFETCH(double, maximum);
+        QFETCH(int, decimals);
+        QFETCH(QString, keys);
+        QFETCH(QString, shown);
+        QFETCH(double, value);
+        XText *field = m_window->field();
+        field->xTextBicim(XText::NumberFormat, maximum, Qt::AlignLeft, false, decimals, 3);
+        field->setValue(77); // the first key of an entry replaces what was there
+        enter(field);
+        typeKeys(field->textBox(), keys);
+        QCOMPARE(field->Text(), shown);
+        QCOMPARE(field->Value().toDouble(), value);
+        QCOMPARE(field->textBox()->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    }
+
+    void numberDisplay_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<int>("decimals");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("half") << QVariant(0.5) << 2 << ".50";
+        QTest::newRow("zero is empty") << QVariant(0) << 2 << "";
+        QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(u"1234.5")) << 2 << "1,234.50";
+        QTest::newRow("negative") << QVariant(-3.25) << 1 << "-3.3";
+    }
+
+    void numberDisplay()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(int, decimals);
+        QFETCH(QString, shown);
+        XText *field = m_window->field();
+        field->xTextBicim(XText::NumberFormat, 1e9, Qt::AlignLeft, false, decimals, 3);
+        field->setValue(value);
+        QCOMPARE(field->Text(), shown);
+    }
+
+    void dateEntry_data()
+    {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("left");
+        QTest::addColumn<qint64>("value");
+        QTest::newRow("eight digits") << "01012010"
+                                      << "01.01.2010"
+                                      << "01.01.2010" << qint64(40179);
+        QTest::newRow("end of 2009") << "31122009"
+                                     << "31.12.2009"
+                                     << "31.12.2009" << qint64(40178);
+        QTest::newRow("no 31 February") << "31022010"
+                                        << "31.02.2010"
+                                        << "??.??.????" << qint64(0);
+        QTest::newRow("letters swallowed") << "01a01-2010"
+                                           << "01.01.2010"
+                                           << "01.01.2010" << qint64(40179);
+        QTest::newRow("backspace after the day's dot") << "120\b\b"
+                                                       << "1"
+                                                       << "??.??.????" << qint64(0);
+        QTest::newRow("backspace after the month's dot") << "12035\b\b"
+                                                         << "12.0"
+                                                         << "??.??.????" << qint64(0);
+    }
+
+    void dateEntry()
+    {
+        QFETCH(QString, keys);
+        QFETCH(QString, typed);
+        QFETCH(QString, left);
+        QFETCH(qint64, value);
+        XText *field = m_window->field();
+        field->xTextBicim(XText::DateFormat, 0, Qt::AlignCenter, false, 0, 0);
+        field->setValue(QDate(2026, 11, 16)); // replaced by the first key
+        enter(field);
+        typeKeys(field->textBox(), keys);
+        QCOMPARE(field->Text(), typed);
+        QTest::keyClick(field->textBox(), Qt::Key_Return);
+        QVERIFY(m_window->fields[2]->textBox()->hasFocus());
+        QCOMPARE(field->Text(), left);
+        QCOMPARE(field->Value().toLongLong(), value);
+    }
+
+    void dateTips_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("tip");
+        QTest::newRow("date") << QVariant(QDate(2026, 11, 16)) << "16.11.2026"
+                              << " 16 Kasım 2026 Pazartesi ";
+        QTest::newRow("day number") << QVariant(40179) << "01.01.2010"
+                                    << " 01 Ocak 2010 Cuma ";
+        QTest::newRow("no date") << QVariant(QDate()) << ""
+                                 << " Hatalı Tarih ";
+    }
+
+    void dateTips()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QString, text);
+        QFETCH(QString, tip);
+        XText *field = m_window->field();
+        field->xTextBicim(XText::DateFormat, 0, Qt::AlignCenter, false, 0, 0);
+        field->setValue(value);
+        QCOMPARE(field->Text(), text);
+        QCOMPARE(field->textBox()->toolTip(), tip);
+    }
+
+    void dateChangeComesBeforeTheDigit()
+    {
+        XText *field = m_window->field();
+        field->xTextBicim(XText::DateFormat, 0, Qt::AlignCenter, false, 0, 0);
+        QStringList seen;
+        connect(field, &XText::Change, this, [&] { seen << field->Text(); });
+        enter(field);
+        typeKeys(field->textBox(), QStringLiteral("123"));
+        QCOMPARE(seen, QStringList({ "", "1", "12." }));
+        QCOMPARE(field->Text(), QStringLiteral("12.3"));
+    }
+
+    void everyNumberKeyIsAChange()
+    {
+        XText *field = m_window->field();
+        field->xTextBicim(XText::NumberFormat, 9, Qt::AlignLeft, false, 0, 3);
+        QSignalSpy changes(field, &XText::Change);
+        enter(field);
+        typeKeys(field->textBox(), QStringLiteral("1x2")); // a refused key changes too
+        QCOMPARE(changes.count(), 3);
+    }
+
+    void enterDownAndUpMoveTheFocus_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("target");
+        QTest::newRow("Enter") << int(Qt::Key_Return) << 2;
+        QTest::newRow("keypad Enter") << int(Qt::Key_Enter) << 2;
+        QTest::newRow("Down") << int(Qt::Key_Down) << 2;
+        QTest::newRow("Up") << int(Qt::Key_Up) << 0;
+    }
+
+    void enterDownAndUpMoveTheFocus()
+    {
+        QFETCH(int, key);
+        QFETCH(int, target);
+        XText *field = m_window->field();
+        QSignalSpy keys(field, &XText::KeyDown);
+        enter(field);
+        QTest::keyClick(field->textBox(), Qt::Key(key));
+        QVERIFY(m_window->fields[target]->textBox()->hasFocus());
+        QCOMPARE(keys.count(), 0);
+        QCOMPARE(field->Text(), QString());
+    }
+
+    void deleteClears_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("number") << int(XText::NumberFormat) << QVariant(42);
+        QTest::newRow("date") << int(XText::DateFormat) << QVariant(QDate(2026, 1, 2));
+    }
+
+    void deleteClears()
+    {
+        QFETCH(int, format);
+        QFETCH(QVariant, value);
+        XText *field = m_window->field();
+        field->xTextBicim(format, 100, Qt::AlignLeft, false, 0, 3);
+        field->setValue(value);
+        QVERIFY(!field->Text().isEmpty());
+        QSignalSpy changes(field, &XText::Change);
+        QSignalSpy keys(field, &XText::KeyDown);
+        enter(field);
+        QTest::keyClick(field->textBox(), Qt::Key_Delete);
+        QCOMPARE(field->Text(), QString());
+        QCOMPARE(field->Value(), QVariant(0));
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(keys.count(), 0);
+        typeKeys(field->textBox(), QStringLiteral("7")); // a new entry starts after Delete
+        QCOMPARE(field->Text().left(1), QStringLiteral("7"));
+    }
+
+    void functionKeyTwo_data()
+    {
+        QTest::addColumn<bool>("button");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<int>("clicks");
+        QTest::addColumn<int>("keyDowns");
+        QTest::newRow("button, F2") << true << int(Qt::NoModifier) << 1 << 0;
+        QTest::newRow("button, Shift+F2") << true << int(Qt::ShiftModifier) << 0 << 1;
+        QTest::newRow("no button, F2") << false << int(Qt::NoModifier) << 0 << 1;
+    }
+
+    void functionKeyTwo()
+    {
+        QFETCH(bool, button);
+        QFETCH(int, modifiers);
+        QFETCH(int, clicks);
+        QFETCH(int, keyDowns);
+        XText *field = m_window->field();
+        field->setButton(button);
+        QSignalSpy clicked(field, &XText::ButtonClick);
+        QList<int> keys;
+        connect(field, &XText::KeyDown, this, [&keys](int &key, Qt::KeyboardModifiers &) { keys << key; });
+        enter(field);
+        QTest::keyClick(field->textBox(), Qt::Key_F2, Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(clicked.count(), clicks);
+        QCOMPARE(keys.count(int(Qt::Key_F2)), keyDowns);
+    }
+
+    void screenCanTakeAKey()
+    {
+        XText *field = m_window->field();
+        field->xTextBicim(XText::NumberFormat, 1e6, Qt::AlignLeft, false, 0, 3);
+        connect(field, &XText::KeyDown, this, [](int &key, Qt::KeyboardModifiers &) {
+            if (key == Qt::Key_5)
+                key = 0;
+        });
+        enter(field);
+        typeKeys(field->textBox(), QStringLiteral("456"));
+        QCOMPARE(field->Text(), QStringLiteral("46"));
+    }
+
+    void lockedNumberRefusesTyping()
+    {
+        XText *field = m_window->field();
+        field->xTextBicim(XText::NumberFormat, 1e6, Qt::AlignLeft, false, 0, 3);
+        field->setValue(12);
+        field->setLocked(true);
+        field->setButton(true);
+        QSignalSpy clicked(field, &XText::ButtonClick);
+        enter(field);
+        typeKeys(field->textBox(), QStringLiteral("9"));
+        QCOMPARE(field->Text(), QStringLiteral("12"));
+        QCOMPARE(field->Value().toDouble(), 12.0);
+        field->findChild<QToolButton *>()->click();
+        QCOMPARE(clicked.count(), 0);
+    }
+
+    void counterFromTheStoredDesign()
+    {
+        XText *field = m_window->field();
+        field->loadDesign({ { "xtexttip", "3" } });
+        QCOMPARE(field->TextTip(), int(XText::CounterFormat));
+        QVERIFY(field->AutoSelect());
+        enter(field);
+        QList<int> values;
+        connect(field, &XText::Change, this, [&] { values << field->Value().toInt(); });
+        typeKeys(field->textBox(), QStringLiteral("++-7x"));
+        QCOMPARE(values, QList<int>({ 1, 2, 1, 7, 7 }));
+        QCOMPARE(field->Text(), QString());
+    }
+
+    void textFieldKeepsItsLimit()
+    {
+        XText *field = m_window->field();
+        field->xTextBicim(XText::TextFormat, 10, Qt::AlignLeft, true, 0, 0);
+        QSignalSpy changes(field, &XText::Change);
+        enter(field);
+        typeKeys(field->textBox(), QStringLiteral("Şişli Çarşı Ofisi"));
+        QCOMPARE(field->Text(), QStringLiteral("Şişli Çarş"));
+        QCOMPARE(changes.count(), 10);
+        QCOMPARE(field->Value(), QVariant());
+    }
 
 private:
     void enter(XText *field);
     std::unique_ptr<FieldHarness> m_window;
 };
 
-void TestXText::init()
-{
-    amountConventions() = AmountConventions();
-    m_window = std::make_unique<FieldHarness>();
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void TestXText::cleanup()
-{
-    m_window.reset();
-}
-
 void TestXText::enter(XText *field)
 {
     m_window->fields[0]->setFocus();
     field->setFocus();
     QVERIFY(field->textBox()->hasFocus());
-}
-
-void TestXText::numberEntry_data()
-{
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<double>("value");
-    QTest::newRow("more decimals than shown") << 1e9 << 2 << "12.345"
-                                              << "12.35" << 12.345;
-    QTest::newRow("largest value 0 takes no digit") << 0.0 << 0 << "123"
-                                                    << "" << 0.0;
-    QTest::newRow("plus appends 000 past the largest value") << 5.0 << 0 << "5+"
-                                                             << "5,000" << 5000.0;
-    QTest::newRow("digit beyond the largest value") << 99.0 << 0 << "123"
-                                                    << "12" << 12.0;
-    QTest::newRow("point refused after Backspace took it") << 1e9 << 2 << "12.\b.5"
-                                                           << "125.00" << 125.0;
-    QTest::newRow("point with no decimals") << 1e9 << 0 << "1.5"
-                                            << "15" << 15.0;
-    QTest::newRow("comma is the point") << 1e9 << 2 << "1,5"
-                                        << "1.50" << 1.5;
-    QTest::newRow("grouped") << 1e9 << 2 << "1234567"
-                             << "1,234,567.00" << 1234567.0;
-    QTest::newRow("no leading zero") << 1e9 << 2 << ".5"
-                                     << ".50" << 0.5;
-    QTest::newRow("letters refused") << 1e9 << 0 << "1a2"
-                                     << "12" << 12.0;
-    QTest::newRow("backspace to nothing") << 1e9 << 0 << "1\b"
-                                          << "" << 0.0;
-    QTest::newRow("backspace keeps the rest") << 1e9 << 2 << "12.5\b\b\b"
-                                              << "1.00" << 1.0;
-}
-
-void TestXText::numberEntry()
-{
-    QFETCH(double, maximum);
-    QFETCH(int, decimals);
-    QFETCH(QString, keys);
-    QFETCH(QString, shown);
-    QFETCH(double, value);
-    XText *field = m_window->field();
-    field->xTextBicim(XText::NumberFormat, maximum, Qt::AlignLeft, false, decimals, 3);
-    field->setValue(77); // the first key of an entry replaces what was there
-    enter(field);
-    typeKeys(field->textBox(), keys);
-    QCOMPARE(field->Text(), shown);
-    QCOMPARE(field->Value().toDouble(), value);
-    QCOMPARE(field->textBox()->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
-}
-
-void TestXText::numberDisplay_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("half") << QVariant(0.5) << 2 << ".50";
-    QTest::newRow("zero is empty") << QVariant(0) << 2 << "";
-    QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(u"1234.5")) << 2 << "1,234.50";
-    QTest::newRow("negative") << QVariant(-3.25) << 1 << "-3.3";
-}
-
-void TestXText::numberDisplay()
-{
-    QFETCH(QVariant, value);
-    QFETCH(int, decimals);
-    QFETCH(QString, shown);
-    XText *field = m_window->field();
-    field->xTextBicim(XText::NumberFormat, 1e9, Qt::AlignLeft, false, decimals, 3);
-    field->setValue(value);
-    QCOMPARE(field->Text(), shown);
-}
-
-void TestXText::dateEntry_data()
-{
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("left");
-    QTest::addColumn<qint64>("value");
-    QTest::newRow("eight digits") << "01012010"
-                                  << "01.01.2010"
-                                  << "01.01.2010" << qint64(40179);
-    QTest::newRow("end of 2009") << "31122009"
-                                 << "31.12.2009"
-                                 << "31.12.2009" << qint64(40178);
-    QTest::newRow("no 31 February") << "31022010"
-                                    << "31.02.2010"
-                                    << "??.??.????" << qint64(0);
-    QTest::newRow("letters swallowed") << "01a01-2010"
-                                       << "01.01.2010"
-                                       << "01.01.2010" << qint64(40179);
-    QTest::newRow("backspace after the day's dot") << "120\b\b"
-                                                   << "1"
-                                                   << "??.??.????" << qint64(0);
-    QTest::newRow("backspace after the month's dot") << "12035\b\b"
-                                                     << "12.0"
-                                                     << "??.??.????" << qint64(0);
-}
-
-void TestXText::dateEntry()
-{
-    QFETCH(QString, keys);
-    QFETCH(QString, typed);
-    QFETCH(QString, left);
-    QFETCH(qint64, value);
-    XText *field = m_window->field();
-    field->xTextBicim(XText::DateFormat, 0, Qt::AlignCenter, false, 0, 0);
-    field->setValue(QDate(2026, 11, 16)); // replaced by the first key
-    enter(field);
-    typeKeys(field->textBox(), keys);
-    QCOMPARE(field->Text(), typed);
-    QTest::keyClick(field->textBox(), Qt::Key_Return);
-    QVERIFY(m_window->fields[2]->textBox()->hasFocus());
-    QCOMPARE(field->Text(), left);
-    QCOMPARE(field->Value().toLongLong(), value);
-}
-
-void TestXText::dateTips_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("tip");
-    QTest::newRow("date") << QVariant(QDate(2026, 11, 16)) << "16.11.2026"
-                          << " 16 Kasım 2026 Pazartesi ";
-    QTest::newRow("day number") << QVariant(40179) << "01.01.2010"
-                                << " 01 Ocak 2010 Cuma ";
-    QTest::newRow("no date") << QVariant(QDate()) << ""
-                             << " Hatalı Tarih ";
-}
-
-void TestXText::dateTips()
-{
-    QFETCH(QVariant, value);
-    QFETCH(QString, text);
-    QFETCH(QString, tip);
-    XText *field = m_window->field();
-    field->xTextBicim(XText::DateFormat, 0, Qt::AlignCenter, false, 0, 0);
-    field->setValue(value);
-    QCOMPARE(field->Text(), text);
-    QCOMPARE(field->textBox()->toolTip(), tip);
-}
-
-void TestXText::dateChangeComesBeforeTheDigit()
-{
-    XText *field = m_window->field();
-    field->xTextBicim(XText::DateFormat, 0, Qt::AlignCenter, false, 0, 0);
-    QStringList seen;
-    connect(field, &XText::Change, this, [&] { seen << field->Text(); });
-    enter(field);
-    typeKeys(field->textBox(), QStringLiteral("123"));
-    QCOMPARE(seen, QStringList({ "", "1", "12." }));
-    QCOMPARE(field->Text(), QStringLiteral("12.3"));
-}
-
-void TestXText::everyNumberKeyIsAChange()
-{
-    XText *field = m_window->field();
-    field->xTextBicim(XText::NumberFormat, 9, Qt::AlignLeft, false, 0, 3);
-    QSignalSpy changes(field, &XText::Change);
-    enter(field);
-    typeKeys(field->textBox(), QStringLiteral("1x2")); // a refused key changes too
-    QCOMPARE(changes.count(), 3);
-}
-
-void TestXText::enterDownAndUpMoveTheFocus_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("target");
-    QTest::newRow("Enter") << int(Qt::Key_Return) << 2;
-    QTest::newRow("keypad Enter") << int(Qt::Key_Enter) << 2;
-    QTest::newRow("Down") << int(Qt::Key_Down) << 2;
-    QTest::newRow("Up") << int(Qt::Key_Up) << 0;
-}
-
-void TestXText::enterDownAndUpMoveTheFocus()
-{
-    QFETCH(int, key);
-    QFETCH(int, target);
-    XText *field = m_window->field();
-    QSignalSpy keys(field, &XText::KeyDown);
-    enter(field);
-    QTest::keyClick(field->textBox(), Qt::Key(key));
-    QVERIFY(m_window->fields[target]->textBox()->hasFocus());
-    QCOMPARE(keys.count(), 0);
-    QCOMPARE(field->Text(), QString());
-}
-
-void TestXText::deleteClears_data()
-{
-    QTest::addColumn<int>("format");
-    QTest::addColumn<QVariant>("value");
-    QTest::newRow("number") << int(XText::NumberFormat) << QVariant(42);
-    QTest::newRow("date") << int(XText::DateFormat) << QVariant(QDate(2026, 1, 2));
-}
-
-void TestXText::deleteClears()
-{
-    QFETCH(int, format);
-    QFETCH(QVariant, value);
-    XText *field = m_window->field();
-    field->xTextBicim(format, 100, Qt::AlignLeft, false, 0, 3);
-    field->setValue(value);
-    QVERIFY(!field->Text().isEmpty());
-    QSignalSpy changes(field, &XText::Change);
-    QSignalSpy keys(field, &XText::KeyDown);
-    enter(field);
-    QTest::keyClick(field->textBox(), Qt::Key_Delete);
-    QCOMPARE(field->Text(), QString());
-    QCOMPARE(field->Value(), QVariant(0));
-    QCOMPARE(changes.count(), 1);
-    QCOMPARE(keys.count(), 0);
-    typeKeys(field->textBox(), QStringLiteral("7")); // a new entry starts after Delete
-    QCOMPARE(field->Text().left(1), QStringLiteral("7"));
-}
-
-void TestXText::functionKeyTwo_data()
-{
-    QTest::addColumn<bool>("button");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<int>("clicks");
-    QTest::addColumn<int>("keyDowns");
-    QTest::newRow("button, F2") << true << int(Qt::NoModifier) << 1 << 0;
-    QTest::newRow("button, Shift+F2") << true << int(Qt::ShiftModifier) << 0 << 1;
-    QTest::newRow("no button, F2") << false << int(Qt::NoModifier) << 0 << 1;
-}
-
-void TestXText::functionKeyTwo()
-{
-    QFETCH(bool, button);
-    QFETCH(int, modifiers);
-    QFETCH(int, clicks);
-    QFETCH(int, keyDowns);
-    XText *field = m_window->field();
-    field->setButton(button);
-    QSignalSpy clicked(field, &XText::ButtonClick);
-    QList<int> keys;
-    connect(field, &XText::KeyDown, this, [&keys](int &key, Qt::KeyboardModifiers &) { keys << key; });
-    enter(field);
-    QTest::keyClick(field->textBox(), Qt::Key_F2, Qt::KeyboardModifiers(modifiers));
-    QCOMPARE(clicked.count(), clicks);
-    QCOMPARE(keys.count(int(Qt::Key_F2)), keyDowns);
-}
-
-void TestXText::screenCanTakeAKey()
-{
-    XText *field = m_window->field();
-    field->xTextBicim(XText::NumberFormat, 1e6, Qt::AlignLeft, false, 0, 3);
-    connect(field, &XText::KeyDown, this, [](int &key, Qt::KeyboardModifiers &) {
-        if (key == Qt::Key_5)
-            key = 0;
-    });
-    enter(field);
-    typeKeys(field->textBox(), QStringLiteral("456"));
-    QCOMPARE(field->Text(), QStringLiteral("46"));
-}
-
-void TestXText::lockedNumberRefusesTyping()
-{
-    XText *field = m_window->field();
-    field->xTextBicim(XText::NumberFormat, 1e6, Qt::AlignLeft, false, 0, 3);
-    field->setValue(12);
-    field->setLocked(true);
-    field->setButton(true);
-    QSignalSpy clicked(field, &XText::ButtonClick);
-    enter(field);
-    typeKeys(field->textBox(), QStringLiteral("9"));
-    QCOMPARE(field->Text(), QStringLiteral("12"));
-    QCOMPARE(field->Value().toDouble(), 12.0);
-    field->findChild<QToolButton *>()->click();
-    QCOMPARE(clicked.count(), 0);
-}
-
-void TestXText::counterFromTheStoredDesign()
-{
-    XText *field = m_window->field();
-    field->loadDesign({ { "xtexttip", "3" } });
-    QCOMPARE(field->TextTip(), int(XText::CounterFormat));
-    QVERIFY(field->AutoSelect());
-    enter(field);
-    QList<int> values;
-    connect(field, &XText::Change, this, [&] { values << field->Value().toInt(); });
-    typeKeys(field->textBox(), QStringLiteral("++-7x"));
-    QCOMPARE(values, QList<int>({ 1, 2, 1, 7, 7 }));
-    QCOMPARE(field->Text(), QString());
-}
-
-void TestXText::textFieldKeepsItsLimit()
-{
-    XText *field = m_window->field();
-    field->xTextBicim(XText::TextFormat, 10, Qt::AlignLeft, true, 0, 0);
-    QSignalSpy changes(field, &XText::Change);
-    enter(field);
-    typeKeys(field->textBox(), QStringLiteral("Şişli Çarşı Ofisi"));
-    QCOMPARE(field->Text(), QStringLiteral("Şişli Çarş"));
-    QCOMPARE(changes.count(), 10);
-    QCOMPARE(field->Value(), QVariant());
 }
 
 QTEST_MAIN(TestXText)

@@ -98,23 +98,292 @@ class TestOfficialLedger : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void listingFromNumberFiveCarriesTheRowsBefore();
-    void firstDateContinuesTheNumbering();
-    void lastDateAndLastNumberEndTheList();
-    void columnsFollowTheSideAndTheSwitches_data();
-    void columnsFollowTheSideAndTheSwitches();
-    void printedPagesCarryTheirTotals_data();
-    void printedPagesCarryTheirTotals();
-    void onePageBooks_data();
-    void onePageBooks();
-    void printedAsPdf();
-    void numbersWiderThanTheirColumnsAreMarked_data();
-    void numbersWiderThanTheirColumnsAreMarked();
-    void holderNameIsNeeded();
-    void printerThatDoesNotOpen();
+    void initTestCase()
+    {
+        m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("defter"));
+        QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
+    }
+
+    void init()
+    {
+        m_kit = std::make_unique<ScreenFixture>(today);
+        QVERIFY(m_kit->isReady());
+        amountConventions().tlonda = 2;
+        parameters().unvan = QStringLiteral("  Av. Deniz Kaya ");
+        m_screen = m_kit->open<OfficialLedgerScreen>("mnuresmi", "Form12");
+        QVERIFY(m_screen);
+        QCOMPARE(m_screen->windowTitle(), QStringLiteral("Serbest Meslek Defteri"));
+    }
+
+    void cleanup() { m_kit.reset(); }
+
+    void listingFromNumberFiveCarriesTheRowsBefore()
+    {
+        bookIncome(6);
+        QVERIFY(AddLedgerRow(0, QDate(2025, 12, 31), fee)); // last year's
+        QVERIFY(AddLedgerRow(1, QDate(2026, 1, 2), fee)); // the other side
+        TypeIntoField(field(0), QStringLiteral("5"));
+        QTest::keyClick(field(0)->textBox(), Qt::Key_F7);
+        OfficialLedgerList *list = m_screen->listScreen();
+        QVERIFY(list);
+        QCOMPARE(list->windowTitle(), QStringLiteral("Serbest Meslek Defteri (Gelir)"));
+        QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "", "5", "6" }));
+        QCOMPARE(shownColumn(OfficialLedgerList::Ack), QStringList({ "Devir....", "Kayıt 5", "Kayıt 6" }));
+        QCOMPARE(shownColumn(OfficialLedgerList::Tarih), QStringList({ "", "05.01.2026", "06.01.2026" }));
+        QCOMPARE(shownColumn(OfficialLedgerList::Matrah), QStringList({ "4,000.00", "1,000.00", "1,000.00" }));
+        QCOMPARE(shownColumn(5), QStringList({ "720.00", "180.00", "180.00" })); // Kdv: no withholding column
+
+        field(0)->setValue(1); // a second listing replaces the first
+        m_screen->listOnScreen();
+        QCOMPARE(m_screen->listScreen(), list);
+        QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2", "3", "4", "5", "6" }));
+    }
+
+    void firstDateContinuesTheNumbering()
+    {
+        for (int month = 1; month <= 4; ++month) // the March row stands on the first date
+            QVERIFY(AddLedgerRow(0, QDate(2026, month, 1), fee, QString(), QStringLiteral("E%1").arg(month)));
+        TypeIntoField(field(2), QStringLiteral("01032026"));
+        m_screen->listOnScreen();
+        QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "3", "4" }));
+        QCOMPARE(shownColumn(OfficialLedgerList::Evrak), QStringList({ "E3", "E4" }));
+
+        TypeIntoField(field(0), QStringLiteral("4")); // both ranges: the March row is carried in
+        m_screen->listOnScreen();
+        QCOMPARE(shownColumn(OfficialLedgerList::Ack), QStringList({ "Devir....", "Kayıt" }));
+        QCOMPARE(shownColumn(OfficialLedgerList::Matrah), QStringList({ "1,000.00", "1,000.00" }));
+    }
+
+    void lastDateAndLastNumberEndTheList()
+    {
+        bookIncome(6);
+        TypeIntoField(field(3), QStringLiteral("04012026"));
+        m_screen->listOnScreen();
+        QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2", "3", "4" }));
+        TypeIntoField(field(1), QStringLiteral("2"));
+        TypeIntoField(field(2), QStringLiteral("??.??.????")); // not a date: no bound
+        m_screen->listOnScreen();
+        QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2" }));
+    }
+
+    void columnsFollowTheSideAndTheSwitches_data()
+    {
+        QTest::addColumn<int>("side");
+        QTest::addColumn<bool>("withholding");
+        QTest::addColumn<bool>("fund");
+        QTest::addColumn<qint64>("withheld"); // VAT withheld by the payer
+        QTest::addColumn<QStringList>("columns");
+        const QStringList fixed = { "sira", "tarih", "evrak", "ack", "matrah" };
+        QTest::newRow("gelir") << 0 << false << false << qint64(0) << fixed + QStringList { "kdv" };
+        QTest::newRow("gelir, stopaj") << 0 << true << false << qint64(0) << fixed + QStringList { "stopaj", "kdv" };
+        QTest::newRow("gelir, both") << 0 << true << true << qint64(0)
+                                     << fixed + QStringList { "stopaj", "fon", "kdv" };
+        QTest::newRow("gelir, VAT withheld")
+            << 0 << false << false << qint64(45) << fixed + QStringList { "kdv", "tevkifat" };
+        QTest::newRow("gider ignores both") << 1 << true << true << qint64(0) << fixed + QStringList { "kdv" };
+    }
+
+    void columnsFollowTheSideAndTheSwitches()
+    {
+        QFETCH(int, side);
+        QFETCH(bool, withholding);
+        QFETCH(bool, fund);
+        QFETCH(qint64, withheld);
+        QFETCH(QStringList, columns);
+        QVERIFY(AddLedgerRow(side, QDate(2026, 12, 31), { 500, 100, 5, 90, withheld })); // the year's last day
+        m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(side);
+        m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->setChecked(withholding);
+        m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->setChecked(fund);
+        m_screen->listOnScreen();
+        const DcList *list = m_screen->listScreen()->list();
+        QStringList names;
+        for (int c = 0; c < list->view()->model()->columnCount(); ++c)
+            names << list->SectionName(c).toLower();
+        QCOMPARE(names, columns);
+        QCOMPARE(list->CaptionByName(0, QStringLiteral("kdv")), QStringLiteral("90"));
+        QCOMPARE(m_screen->listScreen()->windowTitle(),
+            side == 0 ? QStringLiteral("Serbest Meslek Defteri (Gelir)")
+                      : QStringLiteral("Serbest Meslek Defteri (Gider)"));
+    }
+
+    void printedPagesCarryTheirTotals_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<bool>("pageNumbers");
+        // A page holds six lines of head and 54 rows before the line count reaches 60.
+        QTest::newRow("two pages") << 56 << false;
+        QTest::newRow("the last row ends a page") << 54 << false;
+        QTest::newRow("page numbers") << 56 << true;
+    }
+
+    void printedPagesCarryTheirTotals()
+    {
+        QFETCH(int, rows);
+        QFETCH(bool, pageNumbers);
+        bookIncome(rows);
+        const QByteArray printed = printRaw([pageNumbers](QWidget *dialog) {
+            dialog->findChild<QCheckBox *>(QStringLiteral("Check1_2"))->setChecked(pageNumbers);
+        });
+        QVERIFY(m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->isChecked());
+
+        IncomePage expected;
+        expected.page.raw(QByteArray("\x0f", 1)); // condensed
+        for (int n = 1; n <= rows; ++n) {
+            const int onPage = (n - 1) % 54;
+            if (onPage == 0)
+                expected.head(
+                    n - 1, pageNumbers ? QStringLiteral("%1").arg(n / 54 + 1, 3, 10, QLatin1Char('0')) : QString());
+            expected.row(n);
+            if (onPage == 53 || n == rows)
+                expected.foot(n);
+        }
+        const QString difference = FirstDifference(printed, expected.page.bytes());
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    }
+
+    void onePageBooks_data()
+    {
+        QTest::addColumn<int>("side");
+        QTest::addColumn<qint64>("withheld");
+        QTest::addColumn<QStringList>("heads"); // the amount columns' heads, each with its width
+        QTest::addColumn<QStringList>("amounts"); // the row's and the totals' amounts under them
+        QTest::newRow("gider: the VAT only") << 1 << qint64(0) << QStringList { "Gider:15", "İnd.Kdv.:12", "Toplam:15" }
+                                             << QStringList { "500.00", "90.00", "590.00" };
+        // The withheld VAT's column takes 13 of the text's 42 columns: the page keeps its width.
+        QTest::newRow("gelir with VAT withheld by the payer")
+            << 0 << qint64(81) << QStringList { "Gelir:15", "Stopaj:12", "Hes.Kdv.:12", "Tevk.Kdv.:12", "Toplam:15" }
+            << QStringList { "500.00", "100.00", "90.00", "81.00", "690.00" };
+    }
+
+    void onePageBooks()
+    {
+        QFETCH(int, side);
+        QFETCH(qint64, withheld);
+        QFETCH(QStringList, heads);
+        QFETCH(QStringList, amounts);
+        QVERIFY(AddLedgerRow(side, QDate(2026, 3, 2), { 500, side == 0 ? 100 : 0, 0, 90, withheld }, QString(),
+            QStringLiteral("F7"), QStringLiteral("Kırtasiye")));
+        m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(side);
+        printSettings().dotMatrix = true;
+        AnswerPrinterSetup("Command4", this);
+        const QByteArray printed = m_spooler->receive([this] { m_screen->print(); });
+        const int text = withheld != 0 ? 29 : 42;
+        QList<int> widths;
+        QStringList headTexts;
+        for (const QString &head : std::as_const(heads)) {
+            headTexts << head.section(u':', 0, 0);
+            widths << head.section(u':', 1).toInt();
+        }
+        ExpectedRawPage page;
+        // The amount columns' part of a line: the texts in their widths, blanks between, then the end.
+        const auto amountLine = [&page, &widths](const QStringList &texts, int align, bool bold) {
+            for (int c = 0; c < widths.size(); ++c) {
+                page.field(texts[c], widths[c], align, bold);
+                c + 1 < widths.size() ? page.gap() : page.endLine();
+            }
+        };
+        const auto rule = [&] {
+            page.rule(4).gap().rule(12).gap().rule(10).gap().rule(text);
+            for (int width : std::as_const(widths))
+                page.gap().rule(width);
+            page.endLine();
+        };
+        page.raw(QByteArray("\x0f", 1)).field(QStringLiteral(" "), 1).endLine();
+        page.bold(side == 0 ? QStringLiteral("SERBEST MESLEK DEFTERİ (GELIR)")
+                            : QStringLiteral("SERBEST MESLEK DEFTERİ (GIDER)"),
+                115, 2)
+            .endLine();
+        page.field(QStringLiteral("Ünvan :"), 7, 1).field(QStringLiteral("Av. Deniz Kaya"), 43);
+        page.field(QStringLiteral(" "), 1).endLine().field(QStringLiteral(" "), 1).endLine();
+        page.field(QStringLiteral("Sıra"), 4).gap().field(QStringLiteral("Tarih"), 12).gap();
+        page.field(QStringLiteral("Evrak"), 10).gap().field(QStringLiteral("Açıklama"), text).gap();
+        amountLine(headTexts, 0, false);
+        rule();
+        page.field(QStringLiteral("1"), 4, 1).gap().field(QStringLiteral("02.03.2026"), 12).gap();
+        page.field(QStringLiteral("F7"), 10).gap().field(QStringLiteral("Kırtasiye"), text).gap();
+        amountLine(amounts, 1, false);
+        rule();
+        page.bold(QStringLiteral("T O P L A M :"), 4 + 12 + 10 + text + 3, 1).gap();
+        amountLine(amounts, 1, true);
+        page.endPage(linesPerPage);
+        const QString difference = FirstDifference(printed, page.bytes());
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+        QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("SERBEST MESLEK DEFTERİ")));
+    }
+
+    void printedAsPdf()
+    {
+        bookIncome(150); // more than a graphic page holds
+        const PdfPrintout pdf(
+            this, [this] { m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click(); });
+        QVERIFY(pdf.pageCount() >= 2);
+        const QString first = pdf.text(0), last = pdf.text(pdf.pageCount() - 1);
+        for (const char *expected :
+            { "SERBESTMESLEKDEFTERİ(GELIR)", "Ünvan:", "Av.DenizKaya", "Hes.Kdv.", "Kayıt1", "1,380.00" })
+            QVERIFY2(first.contains(QString::fromUtf8(expected)), expected);
+        QVERIFY(!first.contains(QStringLiteral("NakliYekun:")));
+        for (const char *expected : { "NakliYekun:", "Kayıt150", "150,000.00", "207,000.00" })
+            QVERIFY2(last.contains(QString::fromUtf8(expected)), expected);
+        QVERIFY2(pdf.footingFault(QStringLiteral("T O P L A M :")).isEmpty(), qPrintable(pdf.footingFault("TOPLAM:")));
+    }
+
+    void numbersWiderThanTheirColumnsAreMarked_data()
+    {
+        QTest::addColumn<bool>("dotMatrix");
+        QTest::newRow("dot matrix") << true;
+        QTest::newRow("PDF") << false;
+    }
+
+    // A withholding of 10,000,000.00 in the 12-wide "Stopaj" column: marks and a message that names
+    // it, never "0,000,000.00".
+    void numbersWiderThanTheirColumnsAreMarked()
+    {
+        QFETCH(bool, dotMatrix);
+        QVERIFY(AddLedgerRow(0, QDate(2026, 2, 1), { 50000000, 10000000, 0, 0 }));
+        QString printed;
+        if (dotMatrix) {
+            printed = QString::fromLatin1(printRaw());
+        } else {
+            const PdfPrintout pdf(
+                this, [this] { m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click(); });
+            printed = pdf.text(0);
+        }
+        QVERIFY2(printed.contains(QString(12, u'#')), qPrintable(printed));
+        QVERIFY(printed.contains(QStringLiteral("50,000,000.00"))); // the 15-wide columns take theirs
+        QVERIFY(printed.contains(QStringLiteral("60,000,000.00")));
+        printed.remove(QStringLiteral("50,000,000.00")).remove(QStringLiteral("60,000,000.00"));
+        QVERIFY(!printed.contains(QStringLiteral("0,000,000.00")));
+        QCOMPARE(m_kit->messages().texts(),
+            QStringList { QStringLiteral("Sütunlarına sığmayan sayılar \"#\" ile yazdırıldı:\n10,000,000.00") });
+    }
+
+    void holderNameIsNeeded()
+    {
+        bookIncome(2);
+        parameters().unvan = QStringLiteral("   ");
+        const QByteArray before = m_spooler->received();
+        printSettings().dotMatrix = true;
+        AnswerPrinterSetup("Command4", this);
+        m_screen->print();
+        QCOMPARE(m_kit->messages().texts(), QStringList { "Parametrelerden Unvanı Doldurunuz" });
+        QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2" })); // listed all the same
+        QTest::qWait(300);
+        QCOMPARE(m_spooler->received(), before);
+    }
+
+    void printerThatDoesNotOpen()
+    {
+        bookIncome(1);
+        RecordingRawChannel::Log log;
+        SetRawChannel(std::make_unique<RecordingRawChannel>(&log, false));
+        printSettings().dotMatrix = true;
+        AnswerPrinterSetup("Command4", this);
+        m_screen->print();
+        SetRawChannel(nullptr);
+        QCOMPARE(
+            m_kit->messages().texts(), QStringList { "Yazıcı Açılamadı\nYazıcı: defter\nNeden: yazıcı bulunamadı" });
+        QVERIFY(log.writes.isEmpty());
+    }
 
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
@@ -125,28 +394,6 @@ private:
     std::unique_ptr<ScreenFixture> m_kit;
     QPointer<OfficialLedgerScreen> m_screen;
 };
-
-void TestOfficialLedger::initTestCase()
-{
-    m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("defter"));
-    QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
-}
-
-void TestOfficialLedger::init()
-{
-    m_kit = std::make_unique<ScreenFixture>(today);
-    QVERIFY(m_kit->isReady());
-    amountConventions().tlonda = 2;
-    parameters().unvan = QStringLiteral("  Av. Deniz Kaya ");
-    m_screen = m_kit->open<OfficialLedgerScreen>("mnuresmi", "Form12");
-    QVERIFY(m_screen);
-    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Serbest Meslek Defteri"));
-}
-
-void TestOfficialLedger::cleanup()
-{
-    m_kit.reset();
-}
 
 QStringList TestOfficialLedger::shownColumn(int column) const
 {
@@ -163,271 +410,6 @@ QByteArray TestOfficialLedger::printRaw(const std::function<void(QWidget *)> &di
     printSettings().dotMatrix = true;
     AnswerPrinterSetup("Command4", this, dialog);
     return m_spooler->receive([this] { QTest::keyClick(field(0)->textBox(), Qt::Key_F8); });
-}
-
-void TestOfficialLedger::listingFromNumberFiveCarriesTheRowsBefore()
-{
-    bookIncome(6);
-    QVERIFY(AddLedgerRow(0, QDate(2025, 12, 31), fee)); // last year's
-    QVERIFY(AddLedgerRow(1, QDate(2026, 1, 2), fee)); // the other side
-    TypeIntoField(field(0), QStringLiteral("5"));
-    QTest::keyClick(field(0)->textBox(), Qt::Key_F7);
-    OfficialLedgerList *list = m_screen->listScreen();
-    QVERIFY(list);
-    QCOMPARE(list->windowTitle(), QStringLiteral("Serbest Meslek Defteri (Gelir)"));
-    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "", "5", "6" }));
-    QCOMPARE(shownColumn(OfficialLedgerList::Ack), QStringList({ "Devir....", "Kayıt 5", "Kayıt 6" }));
-    QCOMPARE(shownColumn(OfficialLedgerList::Tarih), QStringList({ "", "05.01.2026", "06.01.2026" }));
-    QCOMPARE(shownColumn(OfficialLedgerList::Matrah), QStringList({ "4,000.00", "1,000.00", "1,000.00" }));
-    QCOMPARE(shownColumn(5), QStringList({ "720.00", "180.00", "180.00" })); // Kdv: no withholding column
-
-    field(0)->setValue(1); // a second listing replaces the first
-    m_screen->listOnScreen();
-    QCOMPARE(m_screen->listScreen(), list);
-    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2", "3", "4", "5", "6" }));
-}
-
-void TestOfficialLedger::firstDateContinuesTheNumbering()
-{
-    for (int month = 1; month <= 4; ++month) // the March row stands on the first date
-        QVERIFY(AddLedgerRow(0, QDate(2026, month, 1), fee, QString(), QStringLiteral("E%1").arg(month)));
-    TypeIntoField(field(2), QStringLiteral("01032026"));
-    m_screen->listOnScreen();
-    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "3", "4" }));
-    QCOMPARE(shownColumn(OfficialLedgerList::Evrak), QStringList({ "E3", "E4" }));
-
-    TypeIntoField(field(0), QStringLiteral("4")); // both ranges: the March row is carried in
-    m_screen->listOnScreen();
-    QCOMPARE(shownColumn(OfficialLedgerList::Ack), QStringList({ "Devir....", "Kayıt" }));
-    QCOMPARE(shownColumn(OfficialLedgerList::Matrah), QStringList({ "1,000.00", "1,000.00" }));
-}
-
-void TestOfficialLedger::lastDateAndLastNumberEndTheList()
-{
-    bookIncome(6);
-    TypeIntoField(field(3), QStringLiteral("04012026"));
-    m_screen->listOnScreen();
-    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2", "3", "4" }));
-    TypeIntoField(field(1), QStringLiteral("2"));
-    TypeIntoField(field(2), QStringLiteral("??.??.????")); // not a date: no bound
-    m_screen->listOnScreen();
-    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2" }));
-}
-
-void TestOfficialLedger::columnsFollowTheSideAndTheSwitches_data()
-{
-    QTest::addColumn<int>("side");
-    QTest::addColumn<bool>("withholding");
-    QTest::addColumn<bool>("fund");
-    QTest::addColumn<qint64>("withheld"); // VAT withheld by the payer
-    QTest::addColumn<QStringList>("columns");
-    const QStringList fixed = { "sira", "tarih", "evrak", "ack", "matrah" };
-    QTest::newRow("gelir") << 0 << false << false << qint64(0) << fixed + QStringList { "kdv" };
-    QTest::newRow("gelir, stopaj") << 0 << true << false << qint64(0) << fixed + QStringList { "stopaj", "kdv" };
-    QTest::newRow("gelir, both") << 0 << true << true << qint64(0) << fixed + QStringList { "stopaj", "fon", "kdv" };
-    QTest::newRow("gelir, VAT withheld") << 0 << false << false << qint64(45)
-                                         << fixed + QStringList { "kdv", "tevkifat" };
-    QTest::newRow("gider ignores both") << 1 << true << true << qint64(0) << fixed + QStringList { "kdv" };
-}
-
-void TestOfficialLedger::columnsFollowTheSideAndTheSwitches()
-{
-    QFETCH(int, side);
-    QFETCH(bool, withholding);
-    QFETCH(bool, fund);
-    QFETCH(qint64, withheld);
-    QFETCH(QStringList, columns);
-    QVERIFY(AddLedgerRow(side, QDate(2026, 12, 31), { 500, 100, 5, 90, withheld })); // the year's last day
-    m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(side);
-    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->setChecked(withholding);
-    m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_1"))->setChecked(fund);
-    m_screen->listOnScreen();
-    const DcList *list = m_screen->listScreen()->list();
-    QStringList names;
-    for (int c = 0; c < list->view()->model()->columnCount(); ++c)
-        names << list->SectionName(c).toLower();
-    QCOMPARE(names, columns);
-    QCOMPARE(list->CaptionByName(0, QStringLiteral("kdv")), QStringLiteral("90"));
-    QCOMPARE(m_screen->listScreen()->windowTitle(),
-        side == 0 ? QStringLiteral("Serbest Meslek Defteri (Gelir)")
-                  : QStringLiteral("Serbest Meslek Defteri (Gider)"));
-}
-
-void TestOfficialLedger::printedPagesCarryTheirTotals_data()
-{
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<bool>("pageNumbers");
-    // A page holds six lines of head and 54 rows before the line count reaches 60.
-    QTest::newRow("two pages") << 56 << false;
-    QTest::newRow("the last row ends a page") << 54 << false;
-    QTest::newRow("page numbers") << 56 << true;
-}
-
-void TestOfficialLedger::printedPagesCarryTheirTotals()
-{
-    QFETCH(int, rows);
-    QFETCH(bool, pageNumbers);
-    bookIncome(rows);
-    const QByteArray printed = printRaw([pageNumbers](QWidget *dialog) {
-        dialog->findChild<QCheckBox *>(QStringLiteral("Check1_2"))->setChecked(pageNumbers);
-    });
-    QVERIFY(m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_0"))->isChecked());
-
-    IncomePage expected;
-    expected.page.raw(QByteArray("\x0f", 1)); // condensed
-    for (int n = 1; n <= rows; ++n) {
-        const int onPage = (n - 1) % 54;
-        if (onPage == 0)
-            expected.head(
-                n - 1, pageNumbers ? QStringLiteral("%1").arg(n / 54 + 1, 3, 10, QLatin1Char('0')) : QString());
-        expected.row(n);
-        if (onPage == 53 || n == rows)
-            expected.foot(n);
-    }
-    const QString difference = FirstDifference(printed, expected.page.bytes());
-    QVERIFY2(difference.isEmpty(), qPrintable(difference));
-}
-
-void TestOfficialLedger::onePageBooks_data()
-{
-    QTest::addColumn<int>("side");
-    QTest::addColumn<qint64>("withheld");
-    QTest::addColumn<QStringList>("heads"); // the amount columns' heads, each with its width
-    QTest::addColumn<QStringList>("amounts"); // the row's and the totals' amounts under them
-    QTest::newRow("gider: the VAT only") << 1 << qint64(0) << QStringList { "Gider:15", "İnd.Kdv.:12", "Toplam:15" }
-                                         << QStringList { "500.00", "90.00", "590.00" };
-    // The withheld VAT's column takes 13 of the text's 42 columns: the page keeps its width.
-    QTest::newRow("gelir with VAT withheld by the payer")
-        << 0 << qint64(81) << QStringList { "Gelir:15", "Stopaj:12", "Hes.Kdv.:12", "Tevk.Kdv.:12", "Toplam:15" }
-        << QStringList { "500.00", "100.00", "90.00", "81.00", "690.00" };
-}
-
-void TestOfficialLedger::onePageBooks()
-{
-    QFETCH(int, side);
-    QFETCH(qint64, withheld);
-    QFETCH(QStringList, heads);
-    QFETCH(QStringList, amounts);
-    QVERIFY(AddLedgerRow(side, QDate(2026, 3, 2), { 500, side == 0 ? 100 : 0, 0, 90, withheld }, QString(),
-        QStringLiteral("F7"), QStringLiteral("Kırtasiye")));
-    m_screen->findChild<QComboBox *>(QStringLiteral("Combo1"))->setCurrentIndex(side);
-    printSettings().dotMatrix = true;
-    AnswerPrinterSetup("Command4", this);
-    const QByteArray printed = m_spooler->receive([this] { m_screen->print(); });
-    const int text = withheld != 0 ? 29 : 42;
-    QList<int> widths;
-    QStringList headTexts;
-    for (const QString &head : std::as_const(heads)) {
-        headTexts << head.section(u':', 0, 0);
-        widths << head.section(u':', 1).toInt();
-    }
-    ExpectedRawPage page;
-    // The amount columns' part of a line: the texts in their widths, blanks between, then the end.
-    const auto amountLine = [&page, &widths](const QStringList &texts, int align, bool bold) {
-        for (int c = 0; c < widths.size(); ++c) {
-            page.field(texts[c], widths[c], align, bold);
-            c + 1 < widths.size() ? page.gap() : page.endLine();
-        }
-    };
-    const auto rule = [&] {
-        page.rule(4).gap().rule(12).gap().rule(10).gap().rule(text);
-        for (int width : std::as_const(widths))
-            page.gap().rule(width);
-        page.endLine();
-    };
-    page.raw(QByteArray("\x0f", 1)).field(QStringLiteral(" "), 1).endLine();
-    page.bold(side == 0 ? QStringLiteral("SERBEST MESLEK DEFTERİ (GELIR)")
-                        : QStringLiteral("SERBEST MESLEK DEFTERİ (GIDER)"),
-            115, 2)
-        .endLine();
-    page.field(QStringLiteral("Ünvan :"), 7, 1).field(QStringLiteral("Av. Deniz Kaya"), 43);
-    page.field(QStringLiteral(" "), 1).endLine().field(QStringLiteral(" "), 1).endLine();
-    page.field(QStringLiteral("Sıra"), 4).gap().field(QStringLiteral("Tarih"), 12).gap();
-    page.field(QStringLiteral("Evrak"), 10).gap().field(QStringLiteral("Açıklama"), text).gap();
-    amountLine(headTexts, 0, false);
-    rule();
-    page.field(QStringLiteral("1"), 4, 1).gap().field(QStringLiteral("02.03.2026"), 12).gap();
-    page.field(QStringLiteral("F7"), 10).gap().field(QStringLiteral("Kırtasiye"), text).gap();
-    amountLine(amounts, 1, false);
-    rule();
-    page.bold(QStringLiteral("T O P L A M :"), 4 + 12 + 10 + text + 3, 1).gap();
-    amountLine(amounts, 1, true);
-    page.endPage(linesPerPage);
-    const QString difference = FirstDifference(printed, page.bytes());
-    QVERIFY2(difference.isEmpty(), qPrintable(difference));
-    QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("SERBEST MESLEK DEFTERİ")));
-}
-
-void TestOfficialLedger::printedAsPdf()
-{
-    bookIncome(150); // more than a graphic page holds
-    const PdfPrintout pdf(this, [this] { m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click(); });
-    QVERIFY(pdf.pageCount() >= 2);
-    const QString first = pdf.text(0), last = pdf.text(pdf.pageCount() - 1);
-    for (const char *expected :
-        { "SERBESTMESLEKDEFTERİ(GELIR)", "Ünvan:", "Av.DenizKaya", "Hes.Kdv.", "Kayıt1", "1,380.00" })
-        QVERIFY2(first.contains(QString::fromUtf8(expected)), expected);
-    QVERIFY(!first.contains(QStringLiteral("NakliYekun:")));
-    for (const char *expected : { "NakliYekun:", "Kayıt150", "150,000.00", "207,000.00" })
-        QVERIFY2(last.contains(QString::fromUtf8(expected)), expected);
-    QVERIFY2(pdf.footingFault(QStringLiteral("T O P L A M :")).isEmpty(), qPrintable(pdf.footingFault("TOPLAM:")));
-}
-
-void TestOfficialLedger::numbersWiderThanTheirColumnsAreMarked_data()
-{
-    QTest::addColumn<bool>("dotMatrix");
-    QTest::newRow("dot matrix") << true;
-    QTest::newRow("PDF") << false;
-}
-
-// A withholding of 10,000,000.00 in the 12-wide "Stopaj" column: marks and a message that names
-// it, never "0,000,000.00".
-void TestOfficialLedger::numbersWiderThanTheirColumnsAreMarked()
-{
-    QFETCH(bool, dotMatrix);
-    QVERIFY(AddLedgerRow(0, QDate(2026, 2, 1), { 50000000, 10000000, 0, 0 }));
-    QString printed;
-    if (dotMatrix) {
-        printed = QString::fromLatin1(printRaw());
-    } else {
-        const PdfPrintout pdf(
-            this, [this] { m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click(); });
-        printed = pdf.text(0);
-    }
-    QVERIFY2(printed.contains(QString(12, u'#')), qPrintable(printed));
-    QVERIFY(printed.contains(QStringLiteral("50,000,000.00"))); // the 15-wide columns take theirs
-    QVERIFY(printed.contains(QStringLiteral("60,000,000.00")));
-    printed.remove(QStringLiteral("50,000,000.00")).remove(QStringLiteral("60,000,000.00"));
-    QVERIFY(!printed.contains(QStringLiteral("0,000,000.00")));
-    QCOMPARE(m_kit->messages().texts(),
-        QStringList { QStringLiteral("Sütunlarına sığmayan sayılar \"#\" ile yazdırıldı:\n10,000,000.00") });
-}
-
-void TestOfficialLedger::holderNameIsNeeded()
-{
-    bookIncome(2);
-    parameters().unvan = QStringLiteral("   ");
-    const QByteArray before = m_spooler->received();
-    printSettings().dotMatrix = true;
-    AnswerPrinterSetup("Command4", this);
-    m_screen->print();
-    QCOMPARE(m_kit->messages().texts(), QStringList { "Parametrelerden Unvanı Doldurunuz" });
-    QCOMPARE(shownColumn(OfficialLedgerList::Sira), QStringList({ "1", "2" })); // listed all the same
-    QTest::qWait(300);
-    QCOMPARE(m_spooler->received(), before);
-}
-
-void TestOfficialLedger::printerThatDoesNotOpen()
-{
-    bookIncome(1);
-    RecordingRawChannel::Log log;
-    SetRawChannel(std::make_unique<RecordingRawChannel>(&log, false));
-    printSettings().dotMatrix = true;
-    AnswerPrinterSetup("Command4", this);
-    m_screen->print();
-    SetRawChannel(nullptr);
-    QCOMPARE(m_kit->messages().texts(), QStringList { "Yazıcı Açılamadı\nYazıcı: defter\nNeden: yazıcı bulunamadı" });
-    QVERIFY(log.writes.isEmpty());
 }
 
 QTEST_MAIN(TestOfficialLedger)

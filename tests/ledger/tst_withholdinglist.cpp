@@ -33,16 +33,201 @@ class TestWithholdingList : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void listedByPayerAndDateWhenEntered();
-    void sameDatesDoNotReload();
-    void printedPagesOnTheDotMatrixPrinter();
-    void printedAsPdf();
-    void exportedSheet();
-    void emptyListDoesNothing();
-    void rowsBeyondTheGridAreCountedAndSaid();
+    void initTestCase()
+    {
+        m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("stopaj"));
+        QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
+    }
+
+    void init()
+    {
+        m_kit = std::make_unique<ScreenFixture>(today);
+        QVERIFY(m_kit->isReady());
+        amountConventions().tlonda = 2;
+        QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk Ltd."), QStringLiteral("1234567890"),
+            QStringLiteral("Kadıköy")));
+        m_screen = m_kit->open<WithholdingListScreen>("mnustoplst", "Form15");
+        QVERIFY(m_screen);
+        QCOMPARE(m_screen->windowTitle(), QStringLiteral("Stopaj Listesi"));
+    }
+
+    void cleanup() { m_kit.reset(); }
+
+    void listedByPayerAndDateWhenEntered()
+    {
+        QVERIFY(AddLedgerRow(0, QDate(2026, 3, 5), { 1000, 200, 0, 180 }, QStringLiteral("K1")));
+        QVERIFY(AddLedgerRow(0, QDate(2026, 4, 1), { 500, 100, 0, 90 }, QStringLiteral("A9"))); // no card
+        QVERIFY(AddLedgerRow(0, QDate(2026, 2, 1), { 2000, 400, 0, 360 }, QStringLiteral("k1"))); // K1 in lower case
+        QVERIFY(AddLedgerRow(0, QDate(2026, 4, 2), { 300, 60, 0, 54 }, QStringLiteral("Ç9"))); // Ç before K
+        QVERIFY(AddLedgerRow(0, QDate(2026, 2, 9), { 700, 0, 0, 126 }, QStringLiteral("K1"))); // nothing withheld
+        QVERIFY(AddLedgerRow(1, QDate(2026, 2, 10), { 300, 60, 0, 54 }, QStringLiteral("K1"))); // an expense
+        QCOMPARE(grid()->ListCount(), 0);
+        enterList();
+        QCOMPARE(grid()->ListCount(), 4);
+        QCOMPARE(shownRow(0), QStringList({ "1", "", "", "", "SMK", "01.04.2026", "500.00", "100.00" }));
+        QCOMPARE(shownRow(1), QStringList({ "2", "", "", "", "SMK", "02.04.2026", "300.00", "60.00" }));
+        QCOMPARE(shownRow(2),
+            QStringList(
+                { "3", "Kaya Hukuk Ltd.", "1234567890", "Kadıköy", "SMK", "01.02.2026", "2,000.00", "400.00" }));
+        QCOMPARE(shownRow(3),
+            QStringList(
+                { "4", "Kaya Hukuk Ltd.", "1234567890", "Kadıköy", "SMK", "05.03.2026", "1,000.00", "200.00" }));
+        QCOMPARE(total(1), QStringLiteral("3,800.00"));
+        QCOMPARE(total(0), QStringLiteral("760.00"));
+    }
+
+    void sameDatesDoNotReload()
+    {
+        bookReceipts(3);
+        TypeIntoField(date(0), QStringLiteral("02012026"));
+        enterList();
+        QCOMPARE(grid()->ListCount(), 2);
+        bookReceipts(1); // another row of 1 January, not yet seen
+        QVERIFY(AddLedgerRow(0, QDate(2026, 1, 2), { 100, 20, 0, 0 }, QStringLiteral("K1")));
+        TypeIntoField(date(0), QStringLiteral("02012026"));
+        enterList();
+        QCOMPARE(grid()->ListCount(), 2);
+        TypeIntoField(date(1), QStringLiteral("02012026"));
+        enterList();
+        QCOMPARE(grid()->ListCount(), 2); // 2 January twice
+        QCOMPARE(total(1), QStringLiteral("200.00"));
+    }
+
+    void printedPagesOnTheDotMatrixPrinter()
+    {
+        bookReceipts(29);
+        TypeIntoField(date(0), QStringLiteral("01012026"));
+        TypeIntoField(date(1), QStringLiteral("31122026"));
+        enterList();
+        AnswerPrinterSetup("Command4", this);
+        const QByteArray printed = m_spooler->receive([this] { QTest::keyClick(grid()->view(), Qt::Key_F8); });
+        QVERIFY(printSettings().dotMatrix);
+        QCOMPARE(printSettings().lines, 33);
+
+        ExpectedRawPage page;
+        const auto rule = [&page] {
+            page.rule(4).gap().rule(40).gap().rule(15).gap().rule(15).gap().rule(4).gap().rule(12).gap();
+            page.rule(15).gap().rule(15).endLine();
+        };
+        const auto head = [&page, &rule] {
+            page.field(QStringLiteral(" "), 1).endLine();
+            page.bold(QStringLiteral("Stopaj Listesi"), 130, 2).endLine();
+            page.field(QStringLiteral("Dönem :01.01.2026 - 31.12.2026"), 130).endLine();
+            page.field(QStringLiteral(" "), 1).endLine();
+            const char16_t *heads[] = { u"Sira", u"Ad Soyad", u"Vergi No", u"Vergi Daire", u"Tür", u"Dönem",
+                u"Brüt Tutar", u"Vergi Tutar" };
+            const int widths[] = { 4, 40, 15, 15, 4, 12, 15, 15 };
+            for (int c = 0; c < 8; ++c) {
+                page.bold(QString::fromUtf16(heads[c]), widths[c]);
+                if (c < 7)
+                    page.gap();
+            }
+            page.endLine();
+            rule();
+        };
+        const auto foot = [&page, &rule](int rows) {
+            rule();
+            page.field(QStringLiteral("T O P L A M :"), 94, 1).gap();
+            page.field(QLocale(QLocale::English).toString(100.0 * rows, 'f', 2), 15, 1).gap();
+            page.field(QStringLiteral("%1.00").arg(20 * rows), 15, 1).endLine();
+            page.endPage(33);
+        };
+        page.raw(QByteArray("\x0f", 1));
+        for (int n = 1; n <= 29; ++n) {
+            if (n == 1 || n == 28)
+                head();
+            page.field(QString::number(n), 4, 1).gap().field(QStringLiteral("Kaya Hukuk Ltd."), 40).gap();
+            page.field(QStringLiteral("1234567890"), 15).gap().field(QStringLiteral("Kadıköy"), 15).gap();
+            page.field(QStringLiteral("SMK"), 4).gap();
+            page.field(QDate(2026, 1, 1).addDays(n - 1).toString(QStringLiteral("dd.MM.yyyy")), 12).gap();
+            page.field(QStringLiteral("100.00"), 15, 1).gap().field(QStringLiteral("20.00"), 15, 1).endLine();
+            if (n == 27 || n == 29) // six lines of head and 27 rows fill the 33 lines
+                foot(n);
+        }
+        const QString difference = FirstDifference(printed, page.bytes());
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+        QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("Stopaj Listesi")));
+    }
+
+    void printedAsPdf()
+    {
+        bookReceipts(150); // more than a graphic page holds
+        enterList();
+        const PdfPrintout pdf(
+            this, [this] { m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click(); },
+            [](QWidget *dialog) {
+                dialog->findChild<QWidget *>(QStringLiteral("Option1_2"))->setProperty("checked", true);
+            });
+        QVERIFY(!printSettings().dotMatrix);
+        QCOMPARE(pdf.pageCount(), 2);
+        for (const char *expected :
+            { "StopajListesi", "Dönem:??.??.????\x2d??.??.????", "KayaHukukLtd.", "1234567890", "SMK", "02.01.2026" })
+            QVERIFY2(pdf.text(0).contains(QString::fromUtf8(expected)), expected);
+        QVERIFY(pdf.text(1).contains(QStringLiteral("TOPLAM:15,000.003,000.00"))); // the totals of all rows
+        QVERIFY2(pdf.footingFault(QStringLiteral("T O P L A M :")).isEmpty(), qPrintable(pdf.footingFault("TOPLAM:")));
+    }
+
+    void exportedSheet()
+    {
+        bookReceipts(2);
+        TypeIntoField(date(0), QStringLiteral("01012026"));
+        enterList();
+        QString written;
+        SetSheetOpener([&written](const QString &path) {
+            written = path;
+            return true;
+        });
+        QTest::keyClick(grid()->view(), Qt::Key_F6);
+        SetSheetOpener(nullptr);
+        QVERIFY(!written.isEmpty());
+        const QString day = QString::number(DayNumber(today));
+        QCOMPARE(SheetCells(written),
+            QStringList({ "A1=Stopaj Listesi", "B1=#" + day, "C1=Başlangıç :01.01.2026", "D1=Bitiş :??.??.????",
+                "A4=S.", "B4=Adı Soyadı", "C4=Vergi No", "D4=V.Dairesi", "E4=Tür", "F4=Dönem", "G4=Brüt", "H4=Vergi",
+                "A5=#1", "B5=Kaya Hukuk Ltd.", "C5=1234567890", "D5=Kadıköy", "E5=SMK", "F5=#46023", "G5=#100",
+                "H5=#20", "A6=#2", "B6=Kaya Hukuk Ltd.", "C6=1234567890", "D6=Kadıköy", "E6=SMK", "F6=#46024",
+                "G6=#100", "H6=#20" }));
+        QFile::remove(written);
+    }
+
+    void emptyListDoesNothing()
+    {
+        enterList();
+        QCOMPARE(grid()->ListCount(), 0);
+        bool opened = false;
+        SetSheetOpener([&opened](const QString &) { return opened = true; });
+        bool dialogShown = false;
+        QTimer watch; // a dialog that should not be there is closed, not waited for
+        connect(&watch, &QTimer::timeout, this, [&dialogShown] {
+            if (QWidget *modal = QApplication::activeModalWidget()) {
+                dialogShown = true;
+                modal->close();
+            }
+        });
+        watch.start(10);
+        QTest::keyClick(grid()->view(), Qt::Key_F8);
+        QTest::keyClick(grid()->view(), Qt::Key_F6);
+        SetSheetOpener(nullptr);
+        QVERIFY(!dialogShown);
+        QVERIFY(!opened);
+        QCOMPARE(total(1), QString());
+    }
+
+    // More rows than the grid takes: the user is told, the totals and the printout cover them all.
+    void rowsBeyondTheGridAreCountedAndSaid()
+    {
+        QVERIFY(SqlExecute(*dataFiles().db,
+            QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 32752) "
+                           "INSERT INTO defter (sira, tarih, islem, evrak, cari, ack, brut, stopaj, fon, kdv) "
+                           "SELECT 0, ?1 + i % 300, 0, 'E', 'K1', 'Kayıt', 1000000, 200000, 0, 0 FROM n"),
+            { DayNumber(QDate(2026, 1, 1)) }));
+        enterList();
+        QCOMPARE(grid()->ListCount(), 32751);
+        QCOMPARE(m_kit->messages().texts(),
+            QStringList { QStringLiteral("Liste 32.751 satırda kesildi; tarih aralığını daraltınız.") });
+        QCOMPARE(total(1), QStringLiteral("3,275,200.00"));
+        QCOMPARE(total(0), QStringLiteral("655,040.00"));
+    }
 
 private:
     XText *date(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
@@ -65,29 +250,6 @@ private:
     QPointer<WithholdingListScreen> m_screen;
 };
 
-void TestWithholdingList::initTestCase()
-{
-    m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("stopaj"));
-    QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
-}
-
-void TestWithholdingList::init()
-{
-    m_kit = std::make_unique<ScreenFixture>(today);
-    QVERIFY(m_kit->isReady());
-    amountConventions().tlonda = 2;
-    QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk Ltd."), QStringLiteral("1234567890"),
-        QStringLiteral("Kadıköy")));
-    m_screen = m_kit->open<WithholdingListScreen>("mnustoplst", "Form15");
-    QVERIFY(m_screen);
-    QCOMPARE(m_screen->windowTitle(), QStringLiteral("Stopaj Listesi"));
-}
-
-void TestWithholdingList::cleanup()
-{
-    m_kit.reset();
-}
-
 QStringList TestWithholdingList::shownRow(int row) const
 {
     QStringList texts;
@@ -101,179 +263,6 @@ void TestWithholdingList::bookReceipts(int count)
 {
     for (int n = 0; n < count; ++n)
         QVERIFY(AddLedgerRow(0, QDate(2026, 1, 1).addDays(n), { 100, 20, 0, 0 }, QStringLiteral("K1")));
-}
-
-void TestWithholdingList::listedByPayerAndDateWhenEntered()
-{
-    QVERIFY(AddLedgerRow(0, QDate(2026, 3, 5), { 1000, 200, 0, 180 }, QStringLiteral("K1")));
-    QVERIFY(AddLedgerRow(0, QDate(2026, 4, 1), { 500, 100, 0, 90 }, QStringLiteral("A9"))); // no card
-    QVERIFY(AddLedgerRow(0, QDate(2026, 2, 1), { 2000, 400, 0, 360 }, QStringLiteral("k1"))); // K1 in lower case
-    QVERIFY(AddLedgerRow(0, QDate(2026, 4, 2), { 300, 60, 0, 54 }, QStringLiteral("Ç9"))); // Ç before K
-    QVERIFY(AddLedgerRow(0, QDate(2026, 2, 9), { 700, 0, 0, 126 }, QStringLiteral("K1"))); // nothing withheld
-    QVERIFY(AddLedgerRow(1, QDate(2026, 2, 10), { 300, 60, 0, 54 }, QStringLiteral("K1"))); // an expense
-    QCOMPARE(grid()->ListCount(), 0);
-    enterList();
-    QCOMPARE(grid()->ListCount(), 4);
-    QCOMPARE(shownRow(0), QStringList({ "1", "", "", "", "SMK", "01.04.2026", "500.00", "100.00" }));
-    QCOMPARE(shownRow(1), QStringList({ "2", "", "", "", "SMK", "02.04.2026", "300.00", "60.00" }));
-    QCOMPARE(shownRow(2),
-        QStringList({ "3", "Kaya Hukuk Ltd.", "1234567890", "Kadıköy", "SMK", "01.02.2026", "2,000.00", "400.00" }));
-    QCOMPARE(shownRow(3),
-        QStringList({ "4", "Kaya Hukuk Ltd.", "1234567890", "Kadıköy", "SMK", "05.03.2026", "1,000.00", "200.00" }));
-    QCOMPARE(total(1), QStringLiteral("3,800.00"));
-    QCOMPARE(total(0), QStringLiteral("760.00"));
-}
-
-void TestWithholdingList::sameDatesDoNotReload()
-{
-    bookReceipts(3);
-    TypeIntoField(date(0), QStringLiteral("02012026"));
-    enterList();
-    QCOMPARE(grid()->ListCount(), 2);
-    bookReceipts(1); // another row of 1 January, not yet seen
-    QVERIFY(AddLedgerRow(0, QDate(2026, 1, 2), { 100, 20, 0, 0 }, QStringLiteral("K1")));
-    TypeIntoField(date(0), QStringLiteral("02012026"));
-    enterList();
-    QCOMPARE(grid()->ListCount(), 2);
-    TypeIntoField(date(1), QStringLiteral("02012026"));
-    enterList();
-    QCOMPARE(grid()->ListCount(), 2); // 2 January twice
-    QCOMPARE(total(1), QStringLiteral("200.00"));
-}
-
-void TestWithholdingList::printedPagesOnTheDotMatrixPrinter()
-{
-    bookReceipts(29);
-    TypeIntoField(date(0), QStringLiteral("01012026"));
-    TypeIntoField(date(1), QStringLiteral("31122026"));
-    enterList();
-    AnswerPrinterSetup("Command4", this);
-    const QByteArray printed = m_spooler->receive([this] { QTest::keyClick(grid()->view(), Qt::Key_F8); });
-    QVERIFY(printSettings().dotMatrix);
-    QCOMPARE(printSettings().lines, 33);
-
-    ExpectedRawPage page;
-    const auto rule = [&page] {
-        page.rule(4).gap().rule(40).gap().rule(15).gap().rule(15).gap().rule(4).gap().rule(12).gap();
-        page.rule(15).gap().rule(15).endLine();
-    };
-    const auto head = [&page, &rule] {
-        page.field(QStringLiteral(" "), 1).endLine();
-        page.bold(QStringLiteral("Stopaj Listesi"), 130, 2).endLine();
-        page.field(QStringLiteral("Dönem :01.01.2026 - 31.12.2026"), 130).endLine();
-        page.field(QStringLiteral(" "), 1).endLine();
-        const char16_t *heads[]
-            = { u"Sira", u"Ad Soyad", u"Vergi No", u"Vergi Daire", u"Tür", u"Dönem", u"Brüt Tutar", u"Vergi Tutar" };
-        const int widths[] = { 4, 40, 15, 15, 4, 12, 15, 15 };
-        for (int c = 0; c < 8; ++c) {
-            page.bold(QString::fromUtf16(heads[c]), widths[c]);
-            if (c < 7)
-                page.gap();
-        }
-        page.endLine();
-        rule();
-    };
-    const auto foot = [&page, &rule](int rows) {
-        rule();
-        page.field(QStringLiteral("T O P L A M :"), 94, 1).gap();
-        page.field(QLocale(QLocale::English).toString(100.0 * rows, 'f', 2), 15, 1).gap();
-        page.field(QStringLiteral("%1.00").arg(20 * rows), 15, 1).endLine();
-        page.endPage(33);
-    };
-    page.raw(QByteArray("\x0f", 1));
-    for (int n = 1; n <= 29; ++n) {
-        if (n == 1 || n == 28)
-            head();
-        page.field(QString::number(n), 4, 1).gap().field(QStringLiteral("Kaya Hukuk Ltd."), 40).gap();
-        page.field(QStringLiteral("1234567890"), 15).gap().field(QStringLiteral("Kadıköy"), 15).gap();
-        page.field(QStringLiteral("SMK"), 4).gap();
-        page.field(QDate(2026, 1, 1).addDays(n - 1).toString(QStringLiteral("dd.MM.yyyy")), 12).gap();
-        page.field(QStringLiteral("100.00"), 15, 1).gap().field(QStringLiteral("20.00"), 15, 1).endLine();
-        if (n == 27 || n == 29) // six lines of head and 27 rows fill the 33 lines
-            foot(n);
-    }
-    const QString difference = FirstDifference(printed, page.bytes());
-    QVERIFY2(difference.isEmpty(), qPrintable(difference));
-    QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("Stopaj Listesi")));
-}
-
-void TestWithholdingList::printedAsPdf()
-{
-    bookReceipts(150); // more than a graphic page holds
-    enterList();
-    const PdfPrintout pdf(
-        this, [this] { m_screen->findChild<QPushButton *>(QStringLiteral("Command1"))->click(); },
-        [](QWidget *dialog) {
-            dialog->findChild<QWidget *>(QStringLiteral("Option1_2"))->setProperty("checked", true);
-        });
-    QVERIFY(!printSettings().dotMatrix);
-    QCOMPARE(pdf.pageCount(), 2);
-    for (const char *expected :
-        { "StopajListesi", "Dönem:??.??.????\x2d??.??.????", "KayaHukukLtd.", "1234567890", "SMK", "02.01.2026" })
-        QVERIFY2(pdf.text(0).contains(QString::fromUtf8(expected)), expected);
-    QVERIFY(pdf.text(1).contains(QStringLiteral("TOPLAM:15,000.003,000.00"))); // the totals of all rows
-    QVERIFY2(pdf.footingFault(QStringLiteral("T O P L A M :")).isEmpty(), qPrintable(pdf.footingFault("TOPLAM:")));
-}
-
-void TestWithholdingList::exportedSheet()
-{
-    bookReceipts(2);
-    TypeIntoField(date(0), QStringLiteral("01012026"));
-    enterList();
-    QString written;
-    SetSheetOpener([&written](const QString &path) {
-        written = path;
-        return true;
-    });
-    QTest::keyClick(grid()->view(), Qt::Key_F6);
-    SetSheetOpener(nullptr);
-    QVERIFY(!written.isEmpty());
-    const QString day = QString::number(DayNumber(today));
-    QCOMPARE(SheetCells(written),
-        QStringList({ "A1=Stopaj Listesi", "B1=#" + day, "C1=Başlangıç :01.01.2026", "D1=Bitiş :??.??.????", "A4=S.",
-            "B4=Adı Soyadı", "C4=Vergi No", "D4=V.Dairesi", "E4=Tür", "F4=Dönem", "G4=Brüt", "H4=Vergi", "A5=#1",
-            "B5=Kaya Hukuk Ltd.", "C5=1234567890", "D5=Kadıköy", "E5=SMK", "F5=#46023", "G5=#100", "H5=#20", "A6=#2",
-            "B6=Kaya Hukuk Ltd.", "C6=1234567890", "D6=Kadıköy", "E6=SMK", "F6=#46024", "G6=#100", "H6=#20" }));
-    QFile::remove(written);
-}
-
-void TestWithholdingList::emptyListDoesNothing()
-{
-    enterList();
-    QCOMPARE(grid()->ListCount(), 0);
-    bool opened = false;
-    SetSheetOpener([&opened](const QString &) { return opened = true; });
-    bool dialogShown = false;
-    QTimer watch; // a dialog that should not be there is closed, not waited for
-    connect(&watch, &QTimer::timeout, this, [&dialogShown] {
-        if (QWidget *modal = QApplication::activeModalWidget()) {
-            dialogShown = true;
-            modal->close();
-        }
-    });
-    watch.start(10);
-    QTest::keyClick(grid()->view(), Qt::Key_F8);
-    QTest::keyClick(grid()->view(), Qt::Key_F6);
-    SetSheetOpener(nullptr);
-    QVERIFY(!dialogShown);
-    QVERIFY(!opened);
-    QCOMPARE(total(1), QString());
-}
-
-// More rows than the grid takes: the user is told, the totals and the printout cover them all.
-void TestWithholdingList::rowsBeyondTheGridAreCountedAndSaid()
-{
-    QVERIFY(SqlExecute(*dataFiles().db,
-        QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 32752) "
-                       "INSERT INTO defter (sira, tarih, islem, evrak, cari, ack, brut, stopaj, fon, kdv) "
-                       "SELECT 0, ?1 + i % 300, 0, 'E', 'K1', 'Kayıt', 1000000, 200000, 0, 0 FROM n"),
-        { DayNumber(QDate(2026, 1, 1)) }));
-    enterList();
-    QCOMPARE(grid()->ListCount(), 32751);
-    QCOMPARE(m_kit->messages().texts(),
-        QStringList { QStringLiteral("Liste 32.751 satırda kesildi; tarih aralığını daraltınız.") });
-    QCOMPARE(total(1), QStringLiteral("3,275,200.00"));
-    QCOMPARE(total(0), QStringLiteral("655,040.00"));
 }
 
 QTEST_MAIN(TestWithholdingList)

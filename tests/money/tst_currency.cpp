@@ -8,149 +8,136 @@ class TestCurrency : public QObject
 {
     Q_OBJECT
 private slots:
-    void fromString_data();
-    void fromString();
-    void refusesWhatIsNoNumber_data();
-    void refusesWhatIsNoNumber();
-    void fromDouble_data();
-    void fromDouble();
-    void sumsThatCannotBeHeldOverflow_data();
-    void sumsThatCannotBeHeldOverflow();
-    void toString_data();
-    void toString();
-    void dayNumbers_data();
-    void dayNumbers();
+    void fromString_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<qint64>("raw");
+        QTest::newRow("whole") << "12" << qint64(120000);
+        QTest::newRow("four decimals") << "1.2345" << qint64(12345);
+        QTest::newRow("no leading zero") << ".5" << qint64(5000);
+        QTest::newRow("negative") << "-1234.5" << qint64(-12345000);
+        QTest::newRow("blanks around") << "  7.25 " << qint64(72500);
+        QTest::newRow("fifth decimal below half") << "1.23454" << qint64(12345);
+        QTest::newRow("fifth decimal above half") << "1.23456" << qint64(12346);
+        QTest::newRow("tie to even, down") << "1.23445" << qint64(12344);
+        QTest::newRow("tie to even, up") << "1.23455" << qint64(12346);
+        QTest::newRow("past the tie") << "1.234450001" << qint64(12345);
+        QTest::newRow("largest") << "922337203685477.5807" << std::numeric_limits<qint64>::max();
+    }
+
+    void fromString()
+    {
+        QFETCH(QString, text);
+        QFETCH(qint64, raw);
+        bool ok = false;
+        QCOMPARE(Currency::fromString(text, &ok).raw(), raw);
+        QVERIFY(ok);
+    }
+
+    void refusesWhatIsNoNumber_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("empty") << "";
+        QTest::newRow("letters") << "abc";
+        QTest::newRow("two points") << "1.2.3";
+        QTest::newRow("too large") << "922337203685478";
+    }
+
+    void refusesWhatIsNoNumber()
+    {
+        QFETCH(QString, text);
+        bool ok = true;
+        QCOMPARE(Currency::fromString(text, &ok).raw(), qint64(0));
+        QVERIFY(!ok);
+    }
+
+    void fromDouble_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<qint64>("raw");
+        QTest::newRow("exact") << 12.5 << qint64(125000);
+        QTest::newRow("more decimals") << 1114.285714 << qint64(11142857);
+        QTest::newRow("tie to even") << 1.03125 << qint64(10312);
+        QTest::newRow("negative tie to even") << -1.03125 << qint64(-10312);
+        QTest::newRow("too large") << 1e15 << Currency::overflow().raw();
+        QTest::newRow("not a number") << std::nan("") << Currency::overflow().raw();
+    }
+
+    void fromDouble()
+    {
+        QFETCH(double, value);
+        QFETCH(qint64, raw);
+        QCOMPARE(Currency::fromDouble(value).raw(), raw);
+    }
+
+    void sumsThatCannotBeHeldOverflow_data()
+    {
+        const qint64 max = std::numeric_limits<qint64>::max();
+        QTest::addColumn<Currency>("result");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("largest") << Currency::fromRaw(max - 1) + Currency::fromRaw(1) << "922337203685477.5807";
+        QTest::newRow("past the largest") << Currency::fromRaw(max) + Currency::fromRaw(1) << "Taşma";
+        QTest::newRow("below the smallest") << Currency::fromRaw(-max) - Currency::fromRaw(1) << "Taşma";
+        QTest::newRow("gross and VAT of 900 trillion")
+            << Currency::fromUnits(900000000000000) + Currency::fromUnits(162000000000000) << "Taşma";
+        QTest::newRow("an overflow stays one")
+            << (Currency::fromRaw(max) + Currency::fromRaw(1)) - Currency::fromUnits(5) << "Taşma";
+        QTest::newRow("negated") << -Currency::overflow() << "Taşma";
+        QTest::newRow("its size") << Currency::overflow().magnitude() << "Taşma";
+        Currency running = Currency::fromRaw(max - 10);
+        running += Currency::fromRaw(20);
+        running -= Currency::fromRaw(20);
+        QTest::newRow("a running total") << running << "Taşma";
+    }
+
+    void sumsThatCannotBeHeldOverflow()
+    {
+        QFETCH(Currency, result);
+        QFETCH(QString, text);
+        QCOMPARE(result.toString(), text);
+        QCOMPARE(result.isValid(), text != QStringLiteral("Taşma"));
+        if (!result.isValid())
+            QCOMPARE(FormatAmount(result, 3), text);
+    }
+
+    void toString_data()
+    {
+        QTest::addColumn<qint64>("raw");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("zero") << qint64(0) << "0";
+        QTest::newRow("whole") << qint64(120000) << "12";
+        QTest::newRow("trailing zeros dropped") << qint64(12345000) << "1234.5";
+        QTest::newRow("small negative") << qint64(-500) << "-0.05";
+        QTest::newRow("smallest") << std::numeric_limits<qint64>::min() + 1 << "-922337203685477.5807";
+        QTest::newRow("the overflow mark") << std::numeric_limits<qint64>::min() << "Taşma";
+    }
+
+    void toString()
+    {
+        QFETCH(qint64, raw);
+        QFETCH(QString, text);
+        QCOMPARE(Currency::fromRaw(raw).toString(), text);
+    }
+
+    void dayNumbers_data()
+    {
+        QTest::addColumn<QDate>("date");
+        QTest::addColumn<qint64>("day");
+        QTest::newRow("origin") << QDate(1899, 12, 30) << qint64(0);
+        QTest::newRow("first of 1900") << QDate(1900, 1, 1) << qint64(2);
+        QTest::newRow("2010") << QDate(2010, 1, 1) << qint64(40179);
+        QTest::newRow("today of the book") << QDate(2026, 11, 16) << qint64(46342);
+    }
+
+    void dayNumbers()
+    {
+        QFETCH(QDate, date);
+        QFETCH(qint64, day);
+        QCOMPARE(DayNumber(date), day);
+        QCOMPARE(DateFromDayNumber(day), date);
+        QCOMPARE(FormatDate(QDate(2010, 1, 1)), QStringLiteral("01.01.2010"));
+    }
 };
-
-void TestCurrency::fromString_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<qint64>("raw");
-    QTest::newRow("whole") << "12" << qint64(120000);
-    QTest::newRow("four decimals") << "1.2345" << qint64(12345);
-    QTest::newRow("no leading zero") << ".5" << qint64(5000);
-    QTest::newRow("negative") << "-1234.5" << qint64(-12345000);
-    QTest::newRow("blanks around") << "  7.25 " << qint64(72500);
-    QTest::newRow("fifth decimal below half") << "1.23454" << qint64(12345);
-    QTest::newRow("fifth decimal above half") << "1.23456" << qint64(12346);
-    QTest::newRow("tie to even, down") << "1.23445" << qint64(12344);
-    QTest::newRow("tie to even, up") << "1.23455" << qint64(12346);
-    QTest::newRow("past the tie") << "1.234450001" << qint64(12345);
-    QTest::newRow("largest") << "922337203685477.5807" << std::numeric_limits<qint64>::max();
-}
-
-void TestCurrency::fromString()
-{
-    QFETCH(QString, text);
-    QFETCH(qint64, raw);
-    bool ok = false;
-    QCOMPARE(Currency::fromString(text, &ok).raw(), raw);
-    QVERIFY(ok);
-}
-
-void TestCurrency::refusesWhatIsNoNumber_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("empty") << "";
-    QTest::newRow("letters") << "abc";
-    QTest::newRow("two points") << "1.2.3";
-    QTest::newRow("too large") << "922337203685478";
-}
-
-void TestCurrency::refusesWhatIsNoNumber()
-{
-    QFETCH(QString, text);
-    bool ok = true;
-    QCOMPARE(Currency::fromString(text, &ok).raw(), qint64(0));
-    QVERIFY(!ok);
-}
-
-void TestCurrency::fromDouble_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<qint64>("raw");
-    QTest::newRow("exact") << 12.5 << qint64(125000);
-    QTest::newRow("more decimals") << 1114.285714 << qint64(11142857);
-    QTest::newRow("tie to even") << 1.03125 << qint64(10312);
-    QTest::newRow("negative tie to even") << -1.03125 << qint64(-10312);
-    QTest::newRow("too large") << 1e15 << Currency::overflow().raw();
-    QTest::newRow("not a number") << std::nan("") << Currency::overflow().raw();
-}
-
-void TestCurrency::sumsThatCannotBeHeldOverflow_data()
-{
-    const qint64 max = std::numeric_limits<qint64>::max();
-    QTest::addColumn<Currency>("result");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("largest") << Currency::fromRaw(max - 1) + Currency::fromRaw(1) << "922337203685477.5807";
-    QTest::newRow("past the largest") << Currency::fromRaw(max) + Currency::fromRaw(1) << "Taşma";
-    QTest::newRow("below the smallest") << Currency::fromRaw(-max) - Currency::fromRaw(1) << "Taşma";
-    QTest::newRow("gross and VAT of 900 trillion")
-        << Currency::fromUnits(900000000000000) + Currency::fromUnits(162000000000000) << "Taşma";
-    QTest::newRow("an overflow stays one")
-        << (Currency::fromRaw(max) + Currency::fromRaw(1)) - Currency::fromUnits(5) << "Taşma";
-    QTest::newRow("negated") << -Currency::overflow() << "Taşma";
-    QTest::newRow("its size") << Currency::overflow().magnitude() << "Taşma";
-    Currency running = Currency::fromRaw(max - 10);
-    running += Currency::fromRaw(20);
-    running -= Currency::fromRaw(20);
-    QTest::newRow("a running total") << running << "Taşma";
-}
-
-void TestCurrency::sumsThatCannotBeHeldOverflow()
-{
-    QFETCH(Currency, result);
-    QFETCH(QString, text);
-    QCOMPARE(result.toString(), text);
-    QCOMPARE(result.isValid(), text != QStringLiteral("Taşma"));
-    if (!result.isValid())
-        QCOMPARE(FormatAmount(result, 3), text);
-}
-
-void TestCurrency::fromDouble()
-{
-    QFETCH(double, value);
-    QFETCH(qint64, raw);
-    QCOMPARE(Currency::fromDouble(value).raw(), raw);
-}
-
-void TestCurrency::toString_data()
-{
-    QTest::addColumn<qint64>("raw");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("zero") << qint64(0) << "0";
-    QTest::newRow("whole") << qint64(120000) << "12";
-    QTest::newRow("trailing zeros dropped") << qint64(12345000) << "1234.5";
-    QTest::newRow("small negative") << qint64(-500) << "-0.05";
-    QTest::newRow("smallest") << std::numeric_limits<qint64>::min() + 1 << "-922337203685477.5807";
-    QTest::newRow("the overflow mark") << std::numeric_limits<qint64>::min() << "Taşma";
-}
-
-void TestCurrency::toString()
-{
-    QFETCH(qint64, raw);
-    QFETCH(QString, text);
-    QCOMPARE(Currency::fromRaw(raw).toString(), text);
-}
-
-void TestCurrency::dayNumbers_data()
-{
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<qint64>("day");
-    QTest::newRow("origin") << QDate(1899, 12, 30) << qint64(0);
-    QTest::newRow("first of 1900") << QDate(1900, 1, 1) << qint64(2);
-    QTest::newRow("2010") << QDate(2010, 1, 1) << qint64(40179);
-    QTest::newRow("today of the book") << QDate(2026, 11, 16) << qint64(46342);
-}
-
-void TestCurrency::dayNumbers()
-{
-    QFETCH(QDate, date);
-    QFETCH(qint64, day);
-    QCOMPARE(DayNumber(date), day);
-    QCOMPARE(DateFromDayNumber(day), date);
-    QCOMPARE(FormatDate(QDate(2010, 1, 1)), QStringLiteral("01.01.2010"));
-}
 
 QTEST_APPLESS_MAIN(TestCurrency)
 #include "tst_currency.moc"

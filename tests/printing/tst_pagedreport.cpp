@@ -38,14 +38,110 @@ class TestPagedReport : public QObject
 {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
-    void pagesCarryTheirTotals();
-    void lastRowFillingAPageEndsThere_data();
-    void lastRowFillingAPageEndsThere();
-    void graphicPagesAsPdf();
-    void printedCells_data();
-    void printedCells();
+    void init()
+    {
+        m_log = RecordingRawChannel::Log();
+        ResetPrintSettings();
+        printSettings().lines = linesPerPage;
+        SetRawChannel(std::make_unique<RecordingRawChannel>(&m_log));
+    }
+
+    void cleanup() { SetRawChannel(nullptr); }
+
+    void pagesCarryTheirTotals()
+    {
+        printRows(6, false);
+        ExpectedRawPage page;
+        const auto line = [&page](int number) {
+            page.field(QString::number(number), 4, 1).gap().field(QStringLiteral("Satır %1").arg(number), 20).gap();
+            page.field(QStringLiteral("%1.00").arg(100 * number), 12, 1).gap();
+            page.field(QStringLiteral("%1.00").arg(18 * number), 10, 1).endLine();
+        };
+        head(page);
+        line(1), line(2), line(3); // head (3) + rows: 6 lines, the page is full
+        foot(page, QStringLiteral("600.00"), QStringLiteral("108.00"));
+        head(page, QStringLiteral("600.00"), QStringLiteral("108.00"));
+        line(4), line(5);
+        foot(page, QStringLiteral("1,500.00"), QStringLiteral("270.00"));
+        head(page, QStringLiteral("1,500.00"), QStringLiteral("270.00"));
+        line(6);
+        foot(page, QStringLiteral("2,100.00"), QStringLiteral("378.00"));
+        const QString difference = FirstDifference(m_log.bytes(), page.bytes());
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+        QCOMPARE(m_log.pageEnds, 3);
+    }
+
+    void lastRowFillingAPageEndsThere_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<bool>("totalsOnOwnPage");
+        QTest::addColumn<int>("pages");
+        QTest::addColumn<QString>("lastTotal");
+        QTest::newRow("page ends with the book") << 5 << false << 2 << "1,500.00";
+        QTest::newRow("totals on a page of their own") << 5 << true << 3 << "1,500.00";
+        QTest::newRow("footing after a short page") << 4 << true << 2 << "1,000.00";
+        QTest::newRow("nothing printed") << 0 << true << 0 << "";
+    }
+
+    void lastRowFillingAPageEndsThere()
+    {
+        QFETCH(int, rows);
+        QFETCH(bool, totalsOnOwnPage);
+        QFETCH(int, pages);
+        QFETCH(QString, lastTotal);
+        printRows(rows, totalsOnOwnPage);
+        QCOMPARE(m_log.pageEnds, pages);
+        const QByteArray bytes = m_log.bytes();
+        QCOMPARE(bytes.count("\r\n"), pages * linesPerPage);
+        if (pages > 0) {
+            const QByteArray lastPage = bytes.split('\n').mid((pages - 1) * linesPerPage).join('\n');
+            QVERIFY(lastPage.contains(lastTotal.toLatin1()));
+            QCOMPARE(lastPage.contains("Nakli Yekun"), pages > 1);
+        }
+    }
+
+    void graphicPagesAsPdf()
+    {
+        QTemporaryDir dir;
+        PrintSettings &settings = printSettings();
+        settings.target = PrintSettings::GraphicTarget::PdfFile;
+        settings.pdfFile = dir.filePath(QStringLiteral("liste.pdf"));
+        Prnx prnx;
+        QVERIFY(prnx.OpenPrinter(Prnx::Graphic, QStringLiteral("Deneme")));
+        const int rowsPerPage = settings.lines - 6 - 3; // the lines that fit, less the head and the footing
+        PagedReport report(prnx, testLayout());
+        for (int number = 1; number <= rowsPerPage + 1; ++number)
+            report.printRow(row(number));
+        report.finish();
+        prnx.ClosePrinter();
+
+        const QStringList pages = PdfText(settings.pdfFile).split(u'\f', Qt::SkipEmptyParts);
+        QCOMPARE(pages.size(), 2);
+        QVERIFY2(pages[0].contains(QStringLiteral("DENEME LİSTESİ")), qPrintable(pages[0]));
+        QVERIFY(pages[0].contains(QStringLiteral("T O P L A M :")));
+        QVERIFY(!pages[0].contains(QStringLiteral("Nakli Yekun :")));
+        QVERIFY2(pages[1].contains(QStringLiteral("Nakli Yekun :")), qPrintable(pages[1]));
+        QVERIFY(pages[1].contains(QStringLiteral("Satır %1").arg(rowsPerPage + 1)));
+    }
+
+    void printedCells_data()
+    {
+        QTest::addColumn<QVariant>("cell");
+        QTest::addColumn<QString>("printed");
+        QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(QStringLiteral("1234.5"))) << "1,234.50";
+        QTest::newRow("zero amount: blank") << QVariant::fromValue(Currency()) << "";
+        QTest::newRow("number") << QVariant(10001) << "10001";
+        QTest::newRow("zero number: blank") << QVariant(0) << "";
+        QTest::newRow("date") << QVariant(QDate(2026, 12, 31)) << "31.12.2026";
+        QTest::newRow("text as it is") << QVariant(QStringLiteral(" 0 ")) << " 0 ";
+    }
+
+    void printedCells()
+    {
+        QFETCH(QVariant, cell);
+        QFETCH(QString, printed);
+        QCOMPARE(PrintedCellText(cell), printed);
+    }
 
 private:
     void printRows(int count, bool totalsOnOwnPage);
@@ -55,19 +151,6 @@ private:
 
     RecordingRawChannel::Log m_log;
 };
-
-void TestPagedReport::init()
-{
-    m_log = RecordingRawChannel::Log();
-    ResetPrintSettings();
-    printSettings().lines = linesPerPage;
-    SetRawChannel(std::make_unique<RecordingRawChannel>(&m_log));
-}
-
-void TestPagedReport::cleanup()
-{
-    SetRawChannel(nullptr);
-}
 
 void TestPagedReport::printRows(int count, bool totalsOnOwnPage)
 {
@@ -87,8 +170,12 @@ void TestPagedReport::head(ExpectedRawPage &page, const QString &carriedAmount, 
     page.bold(QStringLiteral("Tutar"), 12).gap().bold(QStringLiteral("Kdv"), 10).endLine();
     page.rule(4).gap().rule(20).gap().rule(12).gap().rule(10).endLine();
     if (!carriedAmount.isEmpty())
-        page.field(QStringLiteral("Nakli Yekun :"), 25, 1).gap().field(carriedAmount, 12, 1).gap()
-            .field(carriedKdv, 10, 1).endLine();
+        page.field(QStringLiteral("Nakli Yekun :"), 25, 1)
+            .gap()
+            .field(carriedAmount, 12, 1)
+            .gap()
+            .field(carriedKdv, 10, 1)
+            .endLine();
 }
 
 void TestPagedReport::foot(ExpectedRawPage &page, const QString &amount, const QString &kdv)
@@ -96,101 +183,6 @@ void TestPagedReport::foot(ExpectedRawPage &page, const QString &amount, const Q
     page.rule(4).gap().rule(20).gap().rule(12).gap().rule(10).endLine();
     page.bold(QStringLiteral("T O P L A M :"), 25, 1).gap().bold(amount, 12, 1).gap().bold(kdv, 10, 1).endLine();
     page.endPage(linesPerPage);
-}
-
-void TestPagedReport::pagesCarryTheirTotals()
-{
-    printRows(6, false);
-    ExpectedRawPage page;
-    const auto line = [&page](int number) {
-        page.field(QString::number(number), 4, 1).gap().field(QStringLiteral("Satır %1").arg(number), 20).gap();
-        page.field(QStringLiteral("%1.00").arg(100 * number), 12, 1).gap();
-        page.field(QStringLiteral("%1.00").arg(18 * number), 10, 1).endLine();
-    };
-    head(page);
-    line(1), line(2), line(3); // head (3) + rows: 6 lines, the page is full
-    foot(page, QStringLiteral("600.00"), QStringLiteral("108.00"));
-    head(page, QStringLiteral("600.00"), QStringLiteral("108.00"));
-    line(4), line(5);
-    foot(page, QStringLiteral("1,500.00"), QStringLiteral("270.00"));
-    head(page, QStringLiteral("1,500.00"), QStringLiteral("270.00"));
-    line(6);
-    foot(page, QStringLiteral("2,100.00"), QStringLiteral("378.00"));
-    const QString difference = FirstDifference(m_log.bytes(), page.bytes());
-    QVERIFY2(difference.isEmpty(), qPrintable(difference));
-    QCOMPARE(m_log.pageEnds, 3);
-}
-
-void TestPagedReport::lastRowFillingAPageEndsThere_data()
-{
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<bool>("totalsOnOwnPage");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<QString>("lastTotal");
-    QTest::newRow("page ends with the book") << 5 << false << 2 << "1,500.00";
-    QTest::newRow("totals on a page of their own") << 5 << true << 3 << "1,500.00";
-    QTest::newRow("footing after a short page") << 4 << true << 2 << "1,000.00";
-    QTest::newRow("nothing printed") << 0 << true << 0 << "";
-}
-
-void TestPagedReport::lastRowFillingAPageEndsThere()
-{
-    QFETCH(int, rows);
-    QFETCH(bool, totalsOnOwnPage);
-    QFETCH(int, pages);
-    QFETCH(QString, lastTotal);
-    printRows(rows, totalsOnOwnPage);
-    QCOMPARE(m_log.pageEnds, pages);
-    const QByteArray bytes = m_log.bytes();
-    QCOMPARE(bytes.count("\r\n"), pages * linesPerPage);
-    if (pages > 0) {
-        const QByteArray lastPage = bytes.split('\n').mid((pages - 1) * linesPerPage).join('\n');
-        QVERIFY(lastPage.contains(lastTotal.toLatin1()));
-        QCOMPARE(lastPage.contains("Nakli Yekun"), pages > 1);
-    }
-}
-
-void TestPagedReport::graphicPagesAsPdf()
-{
-    QTemporaryDir dir;
-    PrintSettings &settings = printSettings();
-    settings.target = PrintSettings::GraphicTarget::PdfFile;
-    settings.pdfFile = dir.filePath(QStringLiteral("liste.pdf"));
-    Prnx prnx;
-    QVERIFY(prnx.OpenPrinter(Prnx::Graphic, QStringLiteral("Deneme")));
-    const int rowsPerPage = settings.lines - 6 - 3; // the lines that fit, less the head and the footing
-    PagedReport report(prnx, testLayout());
-    for (int number = 1; number <= rowsPerPage + 1; ++number)
-        report.printRow(row(number));
-    report.finish();
-    prnx.ClosePrinter();
-
-    const QStringList pages = PdfText(settings.pdfFile).split(u'\f', Qt::SkipEmptyParts);
-    QCOMPARE(pages.size(), 2);
-    QVERIFY2(pages[0].contains(QStringLiteral("DENEME LİSTESİ")), qPrintable(pages[0]));
-    QVERIFY(pages[0].contains(QStringLiteral("T O P L A M :")));
-    QVERIFY(!pages[0].contains(QStringLiteral("Nakli Yekun :")));
-    QVERIFY2(pages[1].contains(QStringLiteral("Nakli Yekun :")), qPrintable(pages[1]));
-    QVERIFY(pages[1].contains(QStringLiteral("Satır %1").arg(rowsPerPage + 1)));
-}
-
-void TestPagedReport::printedCells_data()
-{
-    QTest::addColumn<QVariant>("cell");
-    QTest::addColumn<QString>("printed");
-    QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(QStringLiteral("1234.5"))) << "1,234.50";
-    QTest::newRow("zero amount: blank") << QVariant::fromValue(Currency()) << "";
-    QTest::newRow("number") << QVariant(10001) << "10001";
-    QTest::newRow("zero number: blank") << QVariant(0) << "";
-    QTest::newRow("date") << QVariant(QDate(2026, 12, 31)) << "31.12.2026";
-    QTest::newRow("text as it is") << QVariant(QStringLiteral(" 0 ")) << " 0 ";
-}
-
-void TestPagedReport::printedCells()
-{
-    QFETCH(QVariant, cell);
-    QFETCH(QString, printed);
-    QCOMPARE(PrintedCellText(cell), printed);
 }
 
 QTEST_MAIN(TestPagedReport)
