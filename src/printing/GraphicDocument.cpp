@@ -87,7 +87,7 @@ bool GraphicDocument::play(QPrinter *printer) const
             painter.setClipping(false);
         }
     }
-    return painter.end() && (!toFile() || QFileInfo(m_printer->outputFileName()).size() > 0);
+    return painter.end();
 }
 
 bool GraphicDocument::toFile() const
@@ -123,7 +123,8 @@ bool GraphicDocument::finish()
         preview.exec();
         return true;
     }
-    if (m_printer->isValid() && play(m_printer.get()))
+    if (m_printer->isValid() && play(m_printer.get())
+        && (!toFile() || QFileInfo(m_printer->outputFileName()).size() > 0))
         return true;
     m_failure = whyNotWritten();
     return false;

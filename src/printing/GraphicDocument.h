@@ -50,7 +50,8 @@ private:
         bool isRule = false;
     };
     using Page = std::vector<Item>;
-    // Draws the pages on the printer; false when it could not be begun or written.
+    // Draws the pages on the printer (the document's own, or a preview's); false when the
+    // painter could not begin or end.
     bool play(QPrinter *printer) const;
     bool toFile() const;
     QString whyNotWritten() const;
