@@ -1,16 +1,21 @@
 // The account reports on the synthetic book of 1,000,000 transactions over 10,000 accounts:
-// "Genel Borç Alacak Listesi" from F7 to the filled list and printed on a dot-matrix channel,
+// "Genel Borç Alacak Listesi" from F7 to the filled list, from the F7 key press in the program's
+// frame to the first paint of the filled list window, and printed on a dot-matrix channel,
 // and "Cari Hareket Dökümü" of the account of 30,000 transactions, on the screen and printed.
 // Beside them, in the same run: the raw engine doing the same reads with the program's indexes,
 // the engine's best plan (an index made for the sums alone), and the same sums read through the
 // account-and-date index alone, as files had it before the covering index. Last, the same book
 // written as a plain-text journal and balanced by ledger-cli and hledger, where installed.
+// Run it under a display with QT_QPA_PLATFORM=xcb and QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 (in
+// dbus-run-session, as README shows) to see the key press to the painted list as a screen
+// reader's user has it.
 
 #include "accounts/AccountStatementScreen.h"
 #include "accounts/DebitCreditScreen.h"
 #include "books/Parameters.h"
 #include "controls/DcList.h"
 #include "controls/ListWindow.h"
+#include "controls/OpenInMain.h"
 #include "controls/XText.h"
 #include "money/AmountConventions.h"
 #include "printing/DosPrint.h"
@@ -19,15 +24,22 @@
 
 #include "SyntheticBook.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTableView>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace SyntheticBook;
@@ -126,6 +138,77 @@ double timeBalance(const QString &program, const QStringList &arguments)
     return double(clock.nsecsElapsed()) / 1e9;
 }
 
+// Watches for the first paint of a grid that holds rows (the list and its total line) and lets
+// that paint run to its end before it takes the time.
+class FilledPaint : public QObject
+{
+public:
+    FilledPaint() { qApp->installEventFilter(this); }
+    ~FilledPaint() override { qApp->removeEventFilter(this); }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Paint || m_inside || m_painted >= 0 || !watched->parent())
+            return false;
+        const auto *view = qobject_cast<QTableView *>(watched->parent());
+        if (!view || view->viewport() != watched || view->model()->rowCount() < 2)
+            return false;
+        m_inside = true;
+        QCoreApplication::sendEvent(watched, event);
+        m_inside = false;
+        m_painted = clock.nsecsElapsed();
+        return true;
+    }
+    // Microseconds from the start of the clock to the end of the paint; waits for it.
+    double wait()
+    {
+        while (m_painted < 0)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        return double(m_painted) / 1000;
+    }
+    QElapsedTimer clock;
+
+private:
+    bool m_inside = false;
+    qint64 m_painted = -1;
+};
+
+// The key pressed on the screen's window as the window system delivers it, to the first paint of
+// the filled list, in microseconds.
+double keyToFilledPaint(QWidget *screen, int key)
+{
+    FilledPaint paint;
+    paint.clock.start();
+    QWindow *handle = screen->window()->windowHandle();
+    qt_handleKeyEvent(handle, QEvent::KeyPress, key, Qt::NoModifier);
+    qt_handleKeyEvent(handle, QEvent::KeyRelease, key, Qt::NoModifier);
+    return paint.wait();
+}
+
+// The median of F7 to the painted "Genel Borç Alacak Listesi" in the program's frame: with the
+// list window made by the press (the first F7), or already open (every F7 after).
+std::pair<double, double> timeListKey(QMdiArea *area)
+{
+    auto *screen = new DebitCreditScreen;
+    OpenInMain(screen);
+    QMdiSubWindow *frame = area->activeSubWindow();
+    const auto press = [&] {
+        area->setActiveSubWindow(frame);
+        screen->findChild<XText *>(QStringLiteral("xtext1_0"))->setFocus();
+        QCoreApplication::processEvents();
+        return keyToFilledPaint(screen, Qt::Key_F7);
+    };
+    std::vector<double> made, open;
+    for (int run = 0; run < 5; ++run) {
+        made.push_back(press());
+        open.push_back(press());
+        screen->listWindow()->parentWidget()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    std::sort(made.begin(), made.end());
+    std::sort(open.begin(), open.end());
+    return { made[made.size() / 2], open[open.size() / 2] };
+}
+
 void printBalanceRow(const char *what, double seconds, double program)
 {
     if (seconds < 0)
@@ -138,7 +221,8 @@ void printBalanceRow(const char *what, double seconds, double program)
 
 int main(int argc, char *argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QTemporaryDir dir;
     sqlite3 *raw = openBook(dir.path(), fill);
@@ -156,6 +240,15 @@ int main(int argc, char *argv[])
     const double peak = peakMiB();
     const int listed = debitCredit.listWindow()->list()->ListCount() - 1;
     const double rawAll = medianMicroseconds(9, [&] { readAll(raw, sums().constData(), { first, last }); });
+    QMainWindow frame;
+    auto *area = new QMdiArea;
+    frame.setCentralWidget(area);
+    SetMainArea(area);
+    frame.resize(1280, 800);
+    frame.show();
+    if (!QTest::qWaitForWindowExposed(&frame))
+        return 1;
+    const auto [keyMade, keyOpen] = timeListKey(area);
     const double oldIndex = medianMicroseconds(3, [&] {
         readAll(raw, sums("INDEXED BY carhar_kodtarih").constData(), { first, last });
     });
@@ -201,12 +294,16 @@ int main(int argc, char *argv[])
     printHeader();
     printRow(QStringLiteral("Genel Borç Alacak: %1 accounts, F7 to list").arg(listed), listAll, rawAll, bestAll,
         "<= 250 ms, <= 1.4 x best");
+    printRow(QStringLiteral("  F7 key to the painted list, new list window"), keyMade, rawAll, bestAll,
+        "<= 2 x best");
+    printRow(QStringLiteral("  F7 key to the painted list, window open"), keyOpen, rawAll, bestAll, "<= 2 x best");
     printRow(QStringLiteral("  one grouping over (kod, tarih, ba, tutar)"), flatAll, rawAll, bestAll, "(raw engine)");
     printRow(QStringLiteral("  the sums by the (kod, tarih) index only"), oldIndex, rawAll, bestAll, "(raw engine)");
     printRow(QStringLiteral("Cari Hareket Dökümü: %1 lines of one account").arg(statementRows), listStatement,
         rawStatement, bestStatement, "<= 150 ms, <= 3 x raw");
     std::printf("Genel Borç Alacak printed: %d raw pages in %.1f ms (target <= 2 s)\n", allPages, printAllMs);
     std::printf("Cari Hareket Dökümü printed: %d raw pages in %.1f ms\n", statementPages, printStatementMs);
+    std::printf("Accessibility bridge listening: %s\n", QAccessible::isActive() ? "yes" : "no");
     printBalanceRow("ledger-cli balance --flat, the same book", ledgerCli, listAll);
     printBalanceRow("hledger balance, the same book", hledger, listAll);
     std::printf("Peak memory while listing: %.1f MiB in all, %.1f MiB above the open book (target <= 64 MiB)\n", peak,
