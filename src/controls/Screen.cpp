@@ -11,7 +11,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QShortcut>
 
 Screen::Screen(const QString &formName, const QString &caption, QWidget *parent)
@@ -33,8 +32,7 @@ void Screen::closeScreen()
 
 void Screen::closeEvent(QCloseEvent *event)
 {
-    const QWidget *modal = QApplication::activeModalWidget();
-    if (modal && modal != window()) {
+    if (blockedByDialog()) {
         event->ignore();
         return;
     }
@@ -61,7 +59,10 @@ QPushButton *Screen::addCommand(
     button->setObjectName(objectName);
     button->setAccessibleName(caption.trimmed());
     button->setAutoDefault(true);
-    const auto run = [this, action = std::move(action)] { runCommand(action); };
+    const auto run = [this, action = std::move(action)] {
+        if (!blockedByDialog())
+            action();
+    };
     connect(button, &QPushButton::clicked, this, run);
     auto *shortcut = new QShortcut(key, this);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
@@ -69,13 +70,10 @@ QPushButton *Screen::addCommand(
     return button;
 }
 
-void Screen::runCommand(const std::function<void()> &action)
+bool Screen::blockedByDialog() const
 {
     const QWidget *modal = QApplication::activeModalWidget();
-    if (m_commandRunning || (modal && modal != window()))
-        return;
-    const QScopedValueRollback<bool> running(m_commandRunning, true);
-    action();
+    return modal && modal != window();
 }
 
 void Screen::keyPressEvent(QKeyEvent *event)

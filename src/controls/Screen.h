@@ -28,19 +28,19 @@ protected:
     void setFocusChain(std::initializer_list<QWidget *> fields);
     QLabel *labelFor(const QString &caption, QWidget *field) { return LabelFor(caption, field, this); }
     // A button that its key presses from every control of the screen, and Enter while it has
-    // the focus. Its action runs through runCommand.
+    // the focus. Neither runs the action while blockedByDialog().
     QPushButton *addCommand(
         const QString &objectName, const QString &caption, const QKeySequence &key, std::function<void()> action);
-    // Runs a command of the screen's unless one is still running or a dialog is up: a key
-    // pressed twice in a burst reaches the screen again while the first press is still handled
-    // (its rows stored, its dialog opening), and must not store the same fields twice.
-    void runCommand(const std::function<void()> &action);
+    // Whether a modal dialog other than the screen's own window is up. Every nested event loop
+    // of the program is such a dialog's, so a key pressed twice in a burst that reaches the
+    // screen again while its first press is still handled (its rows stored, its dialog opening)
+    // finds it blocked and cannot store the same fields twice.
+    bool blockedByDialog() const;
     void keyPressEvent(QKeyEvent *event) override;
-    // A screen is not closed while a modal dialog runs (unless it is that dialog's window): the
-    // dialog lives in a call of the screen's own, which must return first.
+    // A screen is not closed while blockedByDialog(): the dialog lives in a call of the
+    // screen's own, which must return first.
     void closeEvent(QCloseEvent *event) override;
 
 private:
     QPointer<QWidget> m_firstField;
-    bool m_commandRunning = false;
 };
