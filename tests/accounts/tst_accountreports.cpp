@@ -6,7 +6,7 @@
 #include "money/AmountConventions.h"
 #include "printing/PrintSettings.h"
 #include "testsupport/Books.h"
-#include "testsupport/ExpectedPage.h"
+#include "testsupport/Golden.h"
 #include "testsupport/PdfPrintout.h"
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/ScreenFixture.h"
@@ -21,50 +21,10 @@
 namespace {
 
 const QDate today(2026, 11, 16);
-constexpr int linesPerPage = 66;
 
 Currency lira(qint64 units)
 {
     return Currency::fromUnits(units);
-}
-
-QString money(qint64 units)
-{
-    return units == 0 ? QString() : QLocale(QLocale::English).toString(double(units), 'f', 2);
-}
-
-// The head both printed account reports begin their pages with, up to the rules.
-void rangeHead(
-    ExpectedRawPage &page, const QString &codes, int pageNumber, const QStringList &heads, const QList<int> &widths)
-{
-    page.field(QStringLiteral(" "), 1).endLine();
-    page.bold(QStringLiteral("GENEL BORÇ ALACAK LİSTESİ"), 132, 2).endLine();
-    page.field(QStringLiteral(" "), 1).endLine();
-    page.field(QStringLiteral("Cari Aralık : "), 15, 1).field(codes, 100).endLine();
-    page.field(QStringLiteral("Tarih Aralık : "), 15, 1).field(QStringLiteral(" - "), 102);
-    page.field(QStringLiteral("Sayfa :"), 8, 1).field(QString::number(pageNumber), 5).endLine();
-    page.field(QStringLiteral(" "), 1).endLine();
-    for (int c = 0; c < heads.size(); ++c) {
-        page.bold(heads[c], widths[c]);
-        if (c + 1 < heads.size())
-            page.gap();
-    }
-    page.endLine();
-    for (int c = 0; c < widths.size(); ++c) {
-        page.rule(widths[c]);
-        if (c + 1 < widths.size())
-            page.gap();
-    }
-    page.endLine();
-}
-
-// A caption line: the caption right-aligned, then the amounts under their columns.
-void captionLine(ExpectedRawPage &page, const QString &caption, int width, const QStringList &amounts, int amountWidth)
-{
-    page.field(caption, width, 1);
-    for (const QString &amount : amounts)
-        page.gap().field(amount, amountWidth, 1);
-    page.endLine();
 }
 
 } // namespace
@@ -281,14 +241,16 @@ void TestAccountReports::sumBeyondTheMoneyTypeShowsOverflow()
 void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter_data()
 {
     QTest::addColumn<int>("accounts");
+    QTest::addColumn<QString>("pages");
     // Eight lines of head and 52 rows bring a page to 60 lines, where it ends.
-    QTest::newRow("two pages") << 53;
-    QTest::newRow("the last row ends a page") << 52;
+    QTest::newRow("two pages") << 53 << "accounts/pages/debit-credit-two-pages.txt";
+    QTest::newRow("the last row ends a page") << 52 << "accounts/pages/debit-credit-last-row-ends-page.txt";
 }
 
 void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter()
 {
     QFETCH(int, accounts);
+    QFETCH(QString, pages);
     QVERIFY(AddCard(QStringLiteral("A000"), QStringLiteral("Personel"), {}, {}, 1));
     QVERIFY(AddTransaction(QStringLiteral("A000"), 6, 1, lira(7)));
     for (int n = 1; n <= accounts; ++n) {
@@ -299,40 +261,7 @@ void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter()
     QVERIFY(AddTransaction(QStringLiteral("A001"), 1, 1, lira(10))); // settled: a credit-side line of blanks
     QVERIFY(open<DebitCreditScreen>("mnugbor", "Form10"));
     check(1, false); // the staff account is left out of rows and totals
-    const QByteArray printed = printRaw();
-
-    const QString codes = QStringLiteral("A000 - A%1").arg(accounts, 3, 10, QLatin1Char('0'));
-    const QStringList heads = { "Kod", "Ünvan", "Borç", "Alacak", "Borç Bakiye", "Alacak Bakiye" };
-    const QList<int> widths = { 8, 40, 17, 17, 17, 17 };
-    const auto sums = [](int rows) {
-        return QStringList { money(10 * rows), money(10), money(10 * (rows - 1)), QString() };
-    };
-    ExpectedRawPage page;
-    page.raw(QByteArray("\x0f", 1));
-    rangeHead(page, codes, 1, heads, widths);
-    for (int n = 1; n <= accounts; ++n) {
-        page.field(QStringLiteral("A%1").arg(n, 3, 10, QLatin1Char('0')), 8).gap();
-        page.field(QStringLiteral("Müvekkil %1").arg(n), 40).gap();
-        if (n == 1) {
-            page.field(QStringLiteral("10.00"), 17, 1).gap().field(QStringLiteral("10.00"), 17, 1).gap();
-            page.field(QString(), 17, 1).gap().field(QString(), 17, 1).endLine();
-            continue;
-        }
-        page.field(QStringLiteral("10.00"), 17, 1).gap().field(QString(), 17, 1).gap();
-        page.field(QStringLiteral("10.00"), 17, 1).endLine(); // a debit-side line ends with its balance
-        if (n == 52) {
-            page.rule(8).gap().rule(40).gap().rule(17).gap().rule(17).gap().rule(17).gap().rule(17).endLine();
-            captionLine(page, QStringLiteral("T O P L A M :"), 49, sums(52), 17);
-            page.endPage(linesPerPage);
-            rangeHead(page, codes, 2, heads, widths);
-            captionLine(page, QStringLiteral("Sayfa Devri :"), 49, sums(52), 17);
-        }
-    }
-    page.rule(8).gap().rule(40).gap().rule(17).gap().rule(17).gap().rule(17).gap().rule(17).endLine();
-    captionLine(page, QStringLiteral("T O P L A M :"), 49, sums(accounts), 17);
-    page.endPage(linesPerPage);
-    const QString difference = FirstDifference(printed, page.bytes());
-    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    COMPARE_GOLDEN(RawPrintout(printRaw()), pages);
     QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("GENEL BORÇ ALACAK LİSTESİ")));
 }
 
@@ -342,16 +271,7 @@ void TestAccountReports::nothingAdmittedPrintsEmptyTotals()
     QVERIFY(open<DebitCreditScreen>("mnugbor", "Form10"));
     for (int type = 0; type < 3; ++type)
         check(type, false);
-    const QByteArray printed = printRaw();
-    ExpectedRawPage page;
-    page.raw(QByteArray("\x0f", 1));
-    rangeHead(page, QStringLiteral("D1 - X1"), 1, { "Kod", "Ünvan", "Borç", "Alacak", "Borç Bakiye", "Alacak Bakiye" },
-        { 8, 40, 17, 17, 17, 17 });
-    page.rule(8).gap().rule(40).gap().rule(17).gap().rule(17).gap().rule(17).gap().rule(17).endLine();
-    captionLine(page, QStringLiteral("T O P L A M :"), 49, { QString(), QString(), QString(), QString() }, 17);
-    page.endPage(linesPerPage);
-    const QString difference = FirstDifference(printed, page.bytes());
-    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    COMPARE_GOLDEN(RawPrintout(printRaw()), "accounts/pages/debit-credit-nothing-admitted.txt");
 }
 
 void TestAccountReports::debitCreditListAsPdf()
@@ -394,49 +314,7 @@ void TestAccountReports::statementPagesOnTheDotMatrixPrinter()
     for (int n = 0; n < 60; ++n)
         QVERIFY(AddTransaction(QStringLiteral("K1"), 1, 0, lira(10), QDate(2026, 1, 1).addDays(n)));
     QVERIFY(open<AccountStatementScreen>("mnucareks", "Form16"));
-    const QByteArray printed = printRaw();
-
-    const QStringList heads = { "Tarih", "İşlem", "Evrak", "Açıklama", "Borç", "Alacak", "Bakiye" };
-    const QList<int> widths = { 10, 12, 8, 40, 17, 17, 17 };
-    const auto rules = [&widths](ExpectedRawPage &page) {
-        for (int c = 0; c < widths.size(); ++c) {
-            page.rule(widths[c]);
-            if (c + 1 < widths.size())
-                page.gap();
-        }
-        page.endLine();
-    };
-    ExpectedRawPage page;
-    page.raw(QByteArray("\x0f", 1));
-    rangeHead(page, QStringLiteral("K1 - K1"), 1, heads, widths);
-    page.field(QStringLiteral("K1"), 10).gap().field(QString(), 12).gap().field(QString(), 8).gap();
-    page.field(QStringLiteral("Kaya Hukuk"), 40).endLine();
-    for (int n = 1; n <= 60; ++n) {
-        page.field(QDate(2026, 1, 1).addDays(n - 1).toString(QStringLiteral("dd.MM.yyyy")), 10).gap();
-        page.field(QStringLiteral("1-Nakit"), 12).gap().field(QString(), 8).gap().field(QString(), 40).gap();
-        page.field(QStringLiteral("10.00"), 17, 1).gap().field(QString(), 17, 1).gap();
-        page.field(money(10 * n) + QStringLiteral(" B"), 17, 1).endLine();
-        if (n == 51) { // the heading and 51 lines fill the first page
-            rules(page);
-            captionLine(page, QStringLiteral("T O P L A M :"), 73, { money(510), QString() }, 17);
-            page.endPage(linesPerPage);
-            rangeHead(page, QStringLiteral("K1 - K1"), 2, heads, widths);
-            captionLine(page, QStringLiteral("Sayfa Devri :"), 73, { money(510), QString() }, 17);
-        }
-    }
-    page.field(QString(), 10).gap().field(QString(), 12).gap().field(QString(), 8).gap();
-    page.field(QStringLiteral("Hesap Toplamı :"), 40)
-        .gap()
-        .field(money(600), 17, 1)
-        .gap()
-        .field(QString(), 17, 1)
-        .gap();
-    page.field(QStringLiteral("600.00 B"), 17, 1).endLine();
-    rules(page);
-    captionLine(page, QStringLiteral("T O P L A M :"), 73, { money(600), QString() }, 17);
-    page.endPage(linesPerPage);
-    const QString difference = FirstDifference(printed, page.bytes());
-    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    COMPARE_GOLDEN(RawPrintout(printRaw()), "accounts/pages/statement-two-pages.txt");
 }
 
 QTEST_MAIN(TestAccountReports)

@@ -2,7 +2,7 @@
 #include "printing/GraphicGrid.h"
 #include "printing/PrintSettings.h"
 #include "printing/Prnx.h"
-#include "testsupport/ExpectedPage.h"
+#include "testsupport/PdfText.h"
 #include "testsupport/RecordingRawChannel.h"
 
 #include <QProcess>

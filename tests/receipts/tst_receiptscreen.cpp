@@ -13,7 +13,7 @@
 #include "receipts/ReceiptScreen.h"
 #include "testsupport/Books.h"
 #include "testsupport/EsmmSamples.h"
-#include "testsupport/ExpectedPage.h"
+#include "testsupport/PdfText.h"
 #include "testsupport/KeyBurst.h"
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/QueryTexts.h"
