@@ -14,6 +14,8 @@
 #include <QToolButton>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestAccountCards : public QObject
 {
     Q_OBJECT
@@ -178,12 +180,9 @@ private slots:
         QTest::addColumn<QString>("code");
         QTest::addColumn<int>("key");
         QTest::addColumn<QString>("message");
-        QTest::newRow("new card") << "INSERT"
-                                  << "Y9" << int(Qt::Key_F5) << "Cari Kartlar Yazılamıyor..";
-        QTest::newRow("changed card") << "UPDATE"
-                                      << "B1" << int(Qt::Key_F5) << "Cari Kartlar Yazılamıyor..";
-        QTest::newRow("deleted card") << "DELETE"
-                                      << "B1" << int(Qt::Key_F7) << "Kart Silinemedi.";
+        QTest::newRow("new card") << u"INSERT"_s << u"Y9"_s << int(Qt::Key_F5) << u"Cari Kartlar Yazılamıyor.."_s;
+        QTest::newRow("changed card") << u"UPDATE"_s << u"B1"_s << int(Qt::Key_F5) << u"Cari Kartlar Yazılamıyor.."_s;
+        QTest::newRow("deleted card") << u"DELETE"_s << u"B1"_s << int(Qt::Key_F7) << u"Kart Silinemedi."_s;
     }
 
     // A write the engine refuses is reported and changes nothing: the card and its transactions stay.

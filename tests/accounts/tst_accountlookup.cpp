@@ -10,6 +10,8 @@
 #include <QTableView>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestAccountLookup : public QObject
 {
     Q_OBJECT
@@ -44,14 +46,14 @@ private slots:
         QTest::addColumn<int>("searchField");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QStringList>("found");
-        QTest::newRow("code M, in Turkish order") << 0 << "M" << QStringList { "MÇ02", "MD01" };
-        QTest::newRow("code in lower case") << 0 << "mç" << QStringList { "MÇ02" };
-        QTest::newRow("title Ah, by title") << 1 << "Ah" << QStringList { "A01", "MÇ02" };
-        QTest::newRow("i finds İ") << 1 << "ism" << QStringList { "P1" };
-        QTest::newRow("ı finds I") << 1 << "ırm" << QStringList { "I9" };
-        QTest::newRow("i does not find I") << 1 << "irm" << QStringList {};
-        QTest::newRow("quote, percent and underscore are literal") << 1 << "O'Neil %_" << QStringList { "Q1" };
-        QTest::newRow("percent is no wildcard") << 1 << "%" << QStringList {};
+        QTest::newRow("code M, in Turkish order") << 0 << u"M"_s << QStringList { "MÇ02", "MD01" };
+        QTest::newRow("code in lower case") << 0 << u"mç"_s << QStringList { "MÇ02" };
+        QTest::newRow("title Ah, by title") << 1 << u"Ah"_s << QStringList { "A01", "MÇ02" };
+        QTest::newRow("i finds İ") << 1 << u"ism"_s << QStringList { "P1" };
+        QTest::newRow("ı finds I") << 1 << u"ırm"_s << QStringList { "I9" };
+        QTest::newRow("i does not find I") << 1 << u"irm"_s << QStringList {};
+        QTest::newRow("quote, percent and underscore are literal") << 1 << u"O'Neil %_"_s << QStringList { "Q1" };
+        QTest::newRow("percent is no wildcard") << 1 << u"%"_s << QStringList {};
     }
 
     void searches()

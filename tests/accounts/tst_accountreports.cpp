@@ -18,6 +18,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QDate today(2026, 11, 16);
@@ -243,8 +245,8 @@ void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter_data()
     QTest::addColumn<int>("accounts");
     QTest::addColumn<QString>("pages");
     // Eight lines of head and 52 rows bring a page to 60 lines, where it ends.
-    QTest::newRow("two pages") << 53 << "accounts/pages/debit-credit-two-pages.txt";
-    QTest::newRow("the last row ends a page") << 52 << "accounts/pages/debit-credit-last-row-ends-page.txt";
+    QTest::newRow("two pages") << 53 << u"accounts/pages/debit-credit-two-pages.txt"_s;
+    QTest::newRow("the last row ends a page") << 52 << u"accounts/pages/debit-credit-last-row-ends-page.txt"_s;
 }
 
 void TestAccountReports::debitCreditPagesOnTheDotMatrixPrinter()

@@ -14,6 +14,8 @@
 #include <QTableView>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestAccountTransactions : public QObject
 {
     Q_OBJECT
@@ -123,27 +125,13 @@ private slots:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("0: whole liras") << 0 << "1234.5"
-                                        << "12,345"
-                                        << "123450000"; // no decimal point
-        QTest::newRow("2: rounded as typed") << 2 << "1.2345"
-                                             << "1.24"
-                                             << "12400";
-        QTest::newRow("2: 1.23 stays") << 2 << "1.23"
-                                       << "1.23"
-                                       << "12300";
-        QTest::newRow("3: 1.235 stays") << 3 << "1.235"
-                                        << "1.235"
-                                        << "12350";
-        QTest::newRow("3: 10.001 stays") << 3 << "10.001"
-                                         << "10.001"
-                                         << "100010";
-        QTest::newRow("4: 1.235 stays") << 4 << "1.235"
-                                        << "1.2350"
-                                        << "12350";
-        QTest::newRow("5: 1.2345 stays") << 5 << "1.2345"
-                                         << "1.23450"
-                                         << "12345";
+        QTest::newRow("0: whole liras") << 0 << u"1234.5"_s << u"12,345"_s << u"123450000"_s; // no decimal point
+        QTest::newRow("2: rounded as typed") << 2 << u"1.2345"_s << u"1.24"_s << u"12400"_s;
+        QTest::newRow("2: 1.23 stays") << 2 << u"1.23"_s << u"1.23"_s << u"12300"_s;
+        QTest::newRow("3: 1.235 stays") << 3 << u"1.235"_s << u"1.235"_s << u"12350"_s;
+        QTest::newRow("3: 10.001 stays") << 3 << u"10.001"_s << u"10.001"_s << u"100010"_s;
+        QTest::newRow("4: 1.235 stays") << 4 << u"1.235"_s << u"1.2350"_s << u"12350"_s;
+        QTest::newRow("5: 1.2345 stays") << 5 << u"1.2345"_s << u"1.23450"_s << u"12345"_s;
     }
 
     // What the list shows is what is stored, and a row listed and stored again keeps its amount.
@@ -180,36 +168,12 @@ private slots:
         QTest::addColumn<QString>("shownType");
         QTest::addColumn<QString>("shownSide");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("3 and +") << "3"
-                                 << "+"
-                                 << "3-Emanet"
-                                 << "B"
-                                 << "3:0";
-        QTest::newRow("1 and +: the first type") << "1"
-                                                 << "+"
-                                                 << "1-Nakit"
-                                                 << "B"
-                                                 << "1:0";
-        QTest::newRow("x and b") << "x"
-                                 << "b"
-                                 << "0-Devir"
-                                 << "B"
-                                 << "0:0";
-        QTest::newRow("9 and a") << "9"
-                                 << "a"
-                                 << "9-Diğer"
-                                 << "A"
-                                 << "9:1";
-        QTest::newRow("0 and -") << "0"
-                                 << "-"
-                                 << "0-Devir"
-                                 << "A"
-                                 << "0:1";
-        QTest::newRow("nothing and x") << ""
-                                       << "x"
-                                       << "0-Devir"
-                                       << "A"
-                                       << "0:1";
+        QTest::newRow("3 and +") << u"3"_s << u"+"_s << u"3-Emanet"_s << u"B"_s << u"3:0"_s;
+        QTest::newRow("1 and +: the first type") << u"1"_s << u"+"_s << u"1-Nakit"_s << u"B"_s << u"1:0"_s;
+        QTest::newRow("x and b") << u"x"_s << u"b"_s << u"0-Devir"_s << u"B"_s << u"0:0"_s;
+        QTest::newRow("9 and a") << u"9"_s << u"a"_s << u"9-Diğer"_s << u"A"_s << u"9:1"_s;
+        QTest::newRow("0 and -") << u"0"_s << u"-"_s << u"0-Devir"_s << u"A"_s << u"0:1"_s;
+        QTest::newRow("nothing and x") << u""_s << u"x"_s << u"0-Devir"_s << u"A"_s << u"0:1"_s;
     }
 
     void typedValuesAreNormalised()
@@ -279,9 +243,9 @@ private slots:
     {
         QTest::addColumn<QString>("amount");
         QTest::addColumn<QStringList>("messages");
-        QTest::newRow("the empty row") << "" << QStringList();
-        QTest::newRow("a negative amount") << "-5" << QStringList();
-        QTest::newRow("an amount without a key") << "5" << QStringList { "İndex Bilgileri Yok.." };
+        QTest::newRow("the empty row") << u""_s << QStringList();
+        QTest::newRow("a negative amount") << u"-5"_s << QStringList();
+        QTest::newRow("an amount without a key") << u"5"_s << QStringList { "İndex Bilgileri Yok.." };
     }
 
     void nothingToDelete()

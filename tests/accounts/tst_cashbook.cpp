@@ -24,6 +24,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QDate today(2026, 11, 16);
@@ -271,9 +273,10 @@ private slots:
     {
         QTest::addColumn<QString>("typedDay"); // "": F8 in the list; else F8 in the date field after typing it
         QTest::addColumn<QString>("pages");
-        QTest::newRow("from the list") << QString() << "accounts/pages/cash-book-day.txt";
-        QTest::newRow("from the date field, as opened") << "16112026" << "accounts/pages/cash-book-day.txt";
-        QTest::newRow("from the date field, another day") << "17112026" << "accounts/pages/cash-book-next-day.txt";
+        QTest::newRow("from the list") << QString() << u"accounts/pages/cash-book-day.txt"_s;
+        QTest::newRow("from the date field, as opened") << u"16112026"_s << u"accounts/pages/cash-book-day.txt"_s;
+        QTest::newRow("from the date field, another day")
+            << u"17112026"_s << u"accounts/pages/cash-book-next-day.txt"_s;
     }
 
     void printedDayOnTheDotMatrixPrinter()

@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestMainWindow : public QObject
 {
     Q_OBJECT
@@ -119,12 +121,9 @@ private slots:
     {
         QTest::addColumn<QString>("item");
         QTest::addColumn<QString>("form");
-        QTest::newRow("Genel Borç Alacak Listesi") << "mnugbor"
-                                                   << "Form10";
-        QTest::newRow("Cari Hareket Dökümü") << "mnucareks"
-                                             << "Form16";
-        QTest::newRow("Kasa") << "mnukasa"
-                              << "Form7";
+        QTest::newRow("Genel Borç Alacak Listesi") << u"mnugbor"_s << u"Form10"_s;
+        QTest::newRow("Cari Hareket Dökümü") << u"mnucareks"_s << u"Form16"_s;
+        QTest::newRow("Kasa") << u"mnukasa"_s << u"Form7"_s;
     }
 
     // F8 and at once Ctrl+W: the close reaches the screen while its printer dialog runs.

@@ -7,6 +7,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Recordset &carkart()
@@ -112,10 +114,10 @@ void TestAccessLayer::readsReplaceNull_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<QVariant>("expected");
-    QTest::newRow("text") << "ack" << QVariant(QString());
-    QTest::newRow("date") << "tarih" << QVariant(QString());
-    QTest::newRow("byte") << "islem" << QVariant(0);
-    QTest::newRow("currency") << "tutar" << QVariant::fromValue(Currency());
+    QTest::newRow("text") << u"ack"_s << QVariant(QString());
+    QTest::newRow("date") << u"tarih"_s << QVariant(QString());
+    QTest::newRow("byte") << u"islem"_s << QVariant(0);
+    QTest::newRow("currency") << u"tutar"_s << QVariant::fromValue(Currency());
 }
 
 void TestAccessLayer::readsReplaceNull()
@@ -146,20 +148,20 @@ void TestAccessLayer::writesOutsideTheTypeAreRefused_data()
     QTest::addColumn<QString>("field");
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<bool>("stored");
-    QTest::newRow("text at its size") << "unv" << QVariant(QString(50, u'ş')) << true;
-    QTest::newRow("text past its size") << "unv" << QVariant(QString(51, u'ş')) << false;
-    QTest::newRow("byte 255") << "tip" << QVariant(255) << true;
-    QTest::newRow("byte 256") << "tip" << QVariant(256) << false;
-    QTest::newRow("byte -1") << "tip" << QVariant(-1) << false;
-    QTest::newRow("required key missing") << "kod" << QVariant() << false;
-    QTest::newRow("key past its size") << "kod" << QVariant(QStringLiteral("123456789")) << false;
+    QTest::newRow("text at its size") << u"unv"_s << QVariant(QString(50, u'ş')) << true;
+    QTest::newRow("text past its size") << u"unv"_s << QVariant(QString(51, u'ş')) << false;
+    QTest::newRow("byte 255") << u"tip"_s << QVariant(255) << true;
+    QTest::newRow("byte 256") << u"tip"_s << QVariant(256) << false;
+    QTest::newRow("byte -1") << u"tip"_s << QVariant(-1) << false;
+    QTest::newRow("required key missing") << u"kod"_s << QVariant() << false;
+    QTest::newRow("key past its size") << u"kod"_s << QVariant(QStringLiteral("123456789")) << false;
     QTest::newRow("a NUL hiding 10,000 characters")
-        << "kod" << QVariant(QStringLiteral("K") + QChar(0) + QString(10000, u'x')) << false;
-    QTest::newRow("a NUL within the size") << "unv" << QVariant(QStringLiteral("a") + QChar(0) + u'b') << false;
-    QTest::newRow("the largest amount") << "ucret" << QVariant::fromValue(Currency::fromRaw(9223372036854775807))
+        << u"kod"_s << QVariant(QStringLiteral("K") + QChar(0) + QString(10000, u'x')) << false;
+    QTest::newRow("a NUL within the size") << u"unv"_s << QVariant(QStringLiteral("a") + QChar(0) + u'b') << false;
+    QTest::newRow("the largest amount") << u"ucret"_s << QVariant::fromValue(Currency::fromRaw(9223372036854775807))
                                         << true;
-    QTest::newRow("an amount that overflowed") << "ucret" << QVariant::fromValue(Currency::overflow()) << false;
-    QTest::newRow("a NUL at the end of a note") << "not1" << QVariant(QStringLiteral("a") + QChar(0)) << false;
+    QTest::newRow("an amount that overflowed") << u"ucret"_s << QVariant::fromValue(Currency::overflow()) << false;
+    QTest::newRow("a NUL at the end of a note") << u"not1"_s << QVariant(QStringLiteral("a") + QChar(0)) << false;
 }
 
 void TestAccessLayer::writesOutsideTheTypeAreRefused()
@@ -217,14 +219,10 @@ void TestAccessLayer::turkishCaseFolding_data()
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("sought");
     QTest::addColumn<bool>("found");
-    QTest::newRow("dotless ı finds I") << "IŞIK"
-                                       << "ışık" << true;
-    QTest::newRow("i finds İ") << "İSMAİL"
-                               << "ismail" << true;
-    QTest::newRow("i does not find I") << "IRMAK"
-                                       << "irmak" << false;
-    QTest::newRow("c does not find ç") << "ÇAM"
-                                       << "cam" << false;
+    QTest::newRow("dotless ı finds I") << u"IŞIK"_s << u"ışık"_s << true;
+    QTest::newRow("i finds İ") << u"İSMAİL"_s << u"ismail"_s << true;
+    QTest::newRow("i does not find I") << u"IRMAK"_s << u"irmak"_s << false;
+    QTest::newRow("c does not find ç") << u"ÇAM"_s << u"cam"_s << false;
 }
 
 void TestAccessLayer::turkishCaseFolding()

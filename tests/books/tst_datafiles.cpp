@@ -21,6 +21,8 @@
 
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray contents(const QString &path)
@@ -146,7 +148,9 @@ void TestDataFiles::schema()
     QVERIFY(OpenDataFiles());
     QString schema;
     const QStringList tables = QueryTexts(
-        QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT GLOB 'sqlite_*' ORDER BY name"), QStringLiteral("name"));
+        QStringLiteral(
+            "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT GLOB 'sqlite_*' ORDER BY name"),
+        QStringLiteral("name"));
     for (const QString &table : tables) {
         schema += table + u'\n';
         for (const QString &column : columnsOf(table))
@@ -332,11 +336,11 @@ void TestDataFiles::fileHeldByAnotherProgram_data()
 {
     QTest::addColumn<QString>("hold");
     QTest::addColumn<QStringList>("messages");
-    QTest::newRow("another program writing") << "BEGIN EXCLUSIVE"
+    QTest::newRow("another program writing") << u"BEGIN EXCLUSIVE"_s
                                              << QStringList { "Veri dosyası başka bir program tarafından "
                                                               "kullanılıyor.\nO programı kapatıp Serbest Meslek'i "
                                                               "yeniden başlatınız." };
-    QTest::newRow("another program reading") << "BEGIN; SELECT count(*) FROM carhar" << QStringList {};
+    QTest::newRow("another program reading") << u"BEGIN; SELECT count(*) FROM carhar"_s << QStringList {};
 }
 
 // Another program holds the file: a reader does not stop the start; a writer that does not let

@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 qint64 rowsFor(const QString &key)
@@ -80,8 +82,8 @@ private slots:
     {
         QTest::addColumn<bool>("text");
         QTest::addColumn<QString>("message");
-        QTest::newRow("text setter") << true << "Genel Kaydı Yapılamadı.";
-        QTest::newRow("number setter") << false << "Genl Kaydı Yapılamadı.";
+        QTest::newRow("text setter") << true << u"Genel Kaydı Yapılamadı."_s;
+        QTest::newRow("number setter") << false << u"Genl Kaydı Yapılamadı."_s;
     }
 
     void tooLongKeyIsRefused()

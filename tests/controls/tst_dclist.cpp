@@ -14,6 +14,8 @@
 #include <QTableView>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 // Answers the list's events as a screen does: stores every complete row, deletes when told,
 // and checks the debit/credit column (B or A; anything else is refused). Like a real screen it
 // may leave a checked value unanswered (a value it only reports on) or answer it later.
@@ -180,14 +182,10 @@ private slots:
         QTest::addColumn<int>("column");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("message");
-        QTest::newRow("no 31 February") << 0 << "31022010"
-                                        << "Hatalı Tarih Girildi.\nDüzeltiniz.";
-        QTest::newRow("empty text") << 1 << ""
-                                    << "En Az Bir Harf Girmelisiniz.";
-        QTest::newRow("zero amount") << 2 << "0"
-                                     << "Bir Sayi Girmelisiniz.";
-        QTest::newRow("amount that rounds to zero") << 2 << "0.00001"
-                                                    << "Bir Sayi Girmelisiniz.";
+        QTest::newRow("no 31 February") << 0 << u"31022010"_s << u"Hatalı Tarih Girildi.\nDüzeltiniz."_s;
+        QTest::newRow("empty text") << 1 << u""_s << u"En Az Bir Harf Girmelisiniz."_s;
+        QTest::newRow("zero amount") << 2 << u"0"_s << u"Bir Sayi Girmelisiniz."_s;
+        QTest::newRow("amount that rounds to zero") << 2 << u"0.00001"_s << u"Bir Sayi Girmelisiniz."_s;
     }
 
     void refusedCellsKeepTheEditor()
@@ -336,33 +334,15 @@ private slots:
         QTest::addColumn<QString>("value");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<int>("alignment");
-        QTest::newRow("number") << "n"
-                                << "1234.5"
-                                << "1,234.50" << int(Qt::AlignRight | Qt::AlignVCenter);
-        QTest::newRow("zero number") << "N"
-                                     << "0"
-                                     << "" << int(Qt::AlignRight | Qt::AlignVCenter);
-        QTest::newRow("balance") << "b"
-                                 << "-5"
-                                 << "-5.00" << int(Qt::AlignRight | Qt::AlignVCenter);
-        QTest::newRow("code") << "s"
-                              << "B"
-                              << "B" << int(Qt::AlignCenter);
-        QTest::newRow("presence") << "v"
-                                  << "True"
-                                  << "Var" << int(Qt::AlignLeft | Qt::AlignVCenter);
-        QTest::newRow("absence") << "V"
-                                 << "False"
-                                 << "Yok" << int(Qt::AlignLeft | Qt::AlignVCenter);
-        QTest::newRow("yes") << "e"
-                             << "True"
-                             << "Evet" << int(Qt::AlignLeft | Qt::AlignVCenter);
-        QTest::newRow("no") << "E"
-                            << "False"
-                            << "Hayır" << int(Qt::AlignLeft | Qt::AlignVCenter);
-        QTest::newRow("other") << "e"
-                               << "Belki"
-                               << "Belki" << int(Qt::AlignLeft | Qt::AlignVCenter);
+        QTest::newRow("number") << u"n"_s << u"1234.5"_s << u"1,234.50"_s << int(Qt::AlignRight | Qt::AlignVCenter);
+        QTest::newRow("zero number") << u"N"_s << u"0"_s << u""_s << int(Qt::AlignRight | Qt::AlignVCenter);
+        QTest::newRow("balance") << u"b"_s << u"-5"_s << u"-5.00"_s << int(Qt::AlignRight | Qt::AlignVCenter);
+        QTest::newRow("code") << u"s"_s << u"B"_s << u"B"_s << int(Qt::AlignCenter);
+        QTest::newRow("presence") << u"v"_s << u"True"_s << u"Var"_s << int(Qt::AlignLeft | Qt::AlignVCenter);
+        QTest::newRow("absence") << u"V"_s << u"False"_s << u"Yok"_s << int(Qt::AlignLeft | Qt::AlignVCenter);
+        QTest::newRow("yes") << u"e"_s << u"True"_s << u"Evet"_s << int(Qt::AlignLeft | Qt::AlignVCenter);
+        QTest::newRow("no") << u"E"_s << u"False"_s << u"Hayır"_s << int(Qt::AlignLeft | Qt::AlignVCenter);
+        QTest::newRow("other") << u"e"_s << u"Belki"_s << u"Belki"_s << int(Qt::AlignLeft | Qt::AlignVCenter);
     }
 
     void displayByKind()
@@ -604,24 +584,15 @@ private slots:
         QTest::addColumn<int>("column");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("every digit kept") << 2 << "12345678901234.56"
-                                          << "12345678901234.56";
-        QTest::newRow("largest amount") << 2 << "999999999999999"
-                                        << "999999999999999";
-        QTest::newRow("needless zeros") << 2 << "0012.50"
-                                        << "12.5";
-        QTest::newRow("point alone") << 2 << "12."
-                                     << "12";
-        QTest::newRow("fraction alone") << 2 << ".05"
-                                        << "0.05";
-        QTest::newRow("negative") << 2 << "-5.5"
-                                  << "-5.5";
-        QTest::newRow("empty number") << 2 << ""
-                                      << "0";
-        QTest::newRow("code: first character") << 3 << "Borç"
-                                               << "B";
-        QTest::newRow("text as it is") << 1 << " Kira "
-                                       << " Kira ";
+        QTest::newRow("every digit kept") << 2 << u"12345678901234.56"_s << u"12345678901234.56"_s;
+        QTest::newRow("largest amount") << 2 << u"999999999999999"_s << u"999999999999999"_s;
+        QTest::newRow("needless zeros") << 2 << u"0012.50"_s << u"12.5"_s;
+        QTest::newRow("point alone") << 2 << u"12."_s << u"12"_s;
+        QTest::newRow("fraction alone") << 2 << u".05"_s << u"0.05"_s;
+        QTest::newRow("negative") << 2 << u"-5.5"_s << u"-5.5"_s;
+        QTest::newRow("empty number") << 2 << u""_s << u"0"_s;
+        QTest::newRow("code: first character") << 3 << u"Borç"_s << u"B"_s;
+        QTest::newRow("text as it is") << 1 << u" Kira "_s << u" Kira "_s;
     }
 
     void storedValuesByKind()

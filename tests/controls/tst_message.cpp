@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 // The program's message boxes as a person sees them: title, icon, Turkish buttons from Qt's
 // own translations, and the default a stray Enter presses.
 class TestMessage : public QObject
@@ -26,13 +28,13 @@ private slots:
         QTest::addColumn<QStringList>("buttons");
         QTest::addColumn<QString>("pressedByEnter");
         QTest::newRow("exclamation") << int(Message::Kind::Exclamation) << int(QMessageBox::Warning)
-                                     << QStringList { "Tamam" } << "Tamam";
+                                     << QStringList { "Tamam" } << u"Tamam"_s;
         QTest::newRow("information") << int(Message::Kind::Information) << int(QMessageBox::Information)
-                                     << QStringList { "Tamam" } << "Tamam";
+                                     << QStringList { "Tamam" } << u"Tamam"_s;
         QTest::newRow("notice") << int(Message::Kind::Notice) << int(QMessageBox::Question) << QStringList { "Tamam" }
-                                << "Tamam";
+                                << u"Tamam"_s;
         QTest::newRow("question") << int(Message::Kind::Question) << int(QMessageBox::Question)
-                                  << QStringList { "&Evet", "&Hayır" } << "&Hayır";
+                                  << QStringList { "&Evet", "&Hayır" } << u"&Hayır"_s;
     }
 
     void boxes()

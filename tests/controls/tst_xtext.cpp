@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 // Three fields on a window, as on a screen; the middle one is under test.
 class FieldHarness : public QWidget
 {
@@ -45,30 +47,18 @@ private slots:
         QTest::addColumn<QString>("keys");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<double>("value");
-        QTest::newRow("more decimals than shown") << 1e9 << 2 << "12.345"
-                                                  << "12.35" << 12.345;
-        QTest::newRow("largest value 0 takes no digit") << 0.0 << 0 << "123"
-                                                        << "" << 0.0;
-        QTest::newRow("plus appends 000 past the largest value") << 5.0 << 0 << "5+"
-                                                                 << "5,000" << 5000.0;
-        QTest::newRow("digit beyond the largest value") << 99.0 << 0 << "123"
-                                                        << "12" << 12.0;
-        QTest::newRow("point refused after Backspace took it") << 1e9 << 2 << "12.\b.5"
-                                                               << "125.00" << 125.0;
-        QTest::newRow("point with no decimals") << 1e9 << 0 << "1.5"
-                                                << "15" << 15.0;
-        QTest::newRow("comma is the point") << 1e9 << 2 << "1,5"
-                                            << "1.50" << 1.5;
-        QTest::newRow("grouped") << 1e9 << 2 << "1234567"
-                                 << "1,234,567.00" << 1234567.0;
-        QTest::newRow("no leading zero") << 1e9 << 2 << ".5"
-                                         << ".50" << 0.5;
-        QTest::newRow("letters refused") << 1e9 << 0 << "1a2"
-                                         << "12" << 12.0;
-        QTest::newRow("backspace to nothing") << 1e9 << 0 << "1\b"
-                                              << "" << 0.0;
-        QTest::newRow("backspace keeps the rest") << 1e9 << 2 << "12.5\b\b\b"
-                                                  << "1.00" << 1.0;
+        QTest::newRow("more decimals than shown") << 1e9 << 2 << u"12.345"_s << u"12.35"_s << 12.345;
+        QTest::newRow("largest value 0 takes no digit") << 0.0 << 0 << u"123"_s << u""_s << 0.0;
+        QTest::newRow("plus appends 000 past the largest value") << 5.0 << 0 << u"5+"_s << u"5,000"_s << 5000.0;
+        QTest::newRow("digit beyond the largest value") << 99.0 << 0 << u"123"_s << u"12"_s << 12.0;
+        QTest::newRow("point refused after Backspace took it") << 1e9 << 2 << u"12.\b.5"_s << u"125.00"_s << 125.0;
+        QTest::newRow("point with no decimals") << 1e9 << 0 << u"1.5"_s << u"15"_s << 15.0;
+        QTest::newRow("comma is the point") << 1e9 << 2 << u"1,5"_s << u"1.50"_s << 1.5;
+        QTest::newRow("grouped") << 1e9 << 2 << u"1234567"_s << u"1,234,567.00"_s << 1234567.0;
+        QTest::newRow("no leading zero") << 1e9 << 2 << u".5"_s << u".50"_s << 0.5;
+        QTest::newRow("letters refused") << 1e9 << 0 << u"1a2"_s << u"12"_s << 12.0;
+        QTest::newRow("backspace to nothing") << 1e9 << 0 << u"1\b"_s << u""_s << 0.0;
+        QTest::newRow("backspace keeps the rest") << 1e9 << 2 << u"12.5\b\b\b"_s << u"1.00"_s << 1.0;
     }
 
     void numberEntry()
@@ -93,10 +83,10 @@ private slots:
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<int>("decimals");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("half") << QVariant(0.5) << 2 << ".50";
-        QTest::newRow("zero is empty") << QVariant(0) << 2 << "";
-        QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(u"1234.5")) << 2 << "1,234.50";
-        QTest::newRow("negative") << QVariant(-3.25) << 1 << "-3.3";
+        QTest::newRow("half") << QVariant(0.5) << 2 << u".50"_s;
+        QTest::newRow("zero is empty") << QVariant(0) << 2 << u""_s;
+        QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(u"1234.5")) << 2 << u"1,234.50"_s;
+        QTest::newRow("negative") << QVariant(-3.25) << 1 << u"-3.3"_s;
     }
 
     void numberDisplay()
@@ -116,24 +106,12 @@ private slots:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("left");
         QTest::addColumn<qint64>("value");
-        QTest::newRow("eight digits") << "01012010"
-                                      << "01.01.2010"
-                                      << "01.01.2010" << qint64(40179);
-        QTest::newRow("end of 2009") << "31122009"
-                                     << "31.12.2009"
-                                     << "31.12.2009" << qint64(40178);
-        QTest::newRow("no 31 February") << "31022010"
-                                        << "31.02.2010"
-                                        << "??.??.????" << qint64(0);
-        QTest::newRow("letters swallowed") << "01a01-2010"
-                                           << "01.01.2010"
-                                           << "01.01.2010" << qint64(40179);
-        QTest::newRow("backspace after the day's dot") << "120\b\b"
-                                                       << "1"
-                                                       << "??.??.????" << qint64(0);
-        QTest::newRow("backspace after the month's dot") << "12035\b\b"
-                                                         << "12.0"
-                                                         << "??.??.????" << qint64(0);
+        QTest::newRow("eight digits") << u"01012010"_s << u"01.01.2010"_s << u"01.01.2010"_s << qint64(40179);
+        QTest::newRow("end of 2009") << u"31122009"_s << u"31.12.2009"_s << u"31.12.2009"_s << qint64(40178);
+        QTest::newRow("no 31 February") << u"31022010"_s << u"31.02.2010"_s << u"??.??.????"_s << qint64(0);
+        QTest::newRow("letters swallowed") << u"01a01-2010"_s << u"01.01.2010"_s << u"01.01.2010"_s << qint64(40179);
+        QTest::newRow("backspace after the day's dot") << u"120\b\b"_s << u"1"_s << u"??.??.????"_s << qint64(0);
+        QTest::newRow("backspace after the month's dot") << u"12035\b\b"_s << u"12.0"_s << u"??.??.????"_s << qint64(0);
     }
 
     void dateEntry()
@@ -159,12 +137,9 @@ private slots:
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("tip");
-        QTest::newRow("date") << QVariant(QDate(2026, 11, 16)) << "16.11.2026"
-                              << " 16 Kasım 2026 Pazartesi ";
-        QTest::newRow("day number") << QVariant(40179) << "01.01.2010"
-                                    << " 01 Ocak 2010 Cuma ";
-        QTest::newRow("no date") << QVariant(QDate()) << ""
-                                 << " Hatalı Tarih ";
+        QTest::newRow("date") << QVariant(QDate(2026, 11, 16)) << u"16.11.2026"_s << u" 16 Kasım 2026 Pazartesi "_s;
+        QTest::newRow("day number") << QVariant(40179) << u"01.01.2010"_s << u" 01 Ocak 2010 Cuma "_s;
+        QTest::newRow("no date") << QVariant(QDate()) << u""_s << u" Hatalı Tarih "_s;
     }
 
     void dateTips()

@@ -7,6 +7,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // GİB's worked example: gross 1,000.00, VAT 18 % = 180.00 of which the payer withholds 10 %,
@@ -66,12 +68,12 @@ private slots:
         QTest::addColumn<QString>("posted");
         QTest::newRow("worked example: 912.00 owed, VAT withheld kept")
             << workedExample()
-            << "E0000001|46342|2|0|9120000|00000001|Hukuki danışmanlık|E0000001|Alıcı Danışmanlık "
+            << u"E0000001|46342|2|0|9120000|00000001|Hukuki danışmanlık|E0000001|Alıcı Danışmanlık "_s
                "A.Ş.|10000000|2500000|0|"
                "1800000|180000|10|GIB2026000000001";
         QTest::newRow("today's rates: the gross is owed")
             << SampleEsmm()
-            << "E0000001|46342|2|0|10000000|00000001|Hukuki danışmanlık|E0000001|Alıcı Danışmanlık "
+            << u"E0000001|46342|2|0|10000000|00000001|Hukuki danışmanlık|E0000001|Alıcı Danışmanlık "_s
                "A.Ş.|10000000|2000000|0|"
                "2000000|0|0|GIB2026000000001";
     }
@@ -101,33 +103,30 @@ private slots:
         dollars.currency = QStringLiteral("USD");
         SampleEsmm otherTax;
         otherTax.otherTaxCode = QStringLiteral("0059");
-        QTest::newRow("does not add up") << EsmmXml(wrongTotal) << ""
-                                         << "Uyuşmuyor: ödenecek tutar 1,100.00, hesaplanan 1,000.00";
+        QTest::newRow("does not add up") << EsmmXml(wrongTotal) << u""_s
+                                         << u"Uyuşmuyor: ödenecek tutar 1,100.00, hesaplanan 1,000.00"_s;
         QTest::newRow("within a kuruş it adds up") << EsmmXml([] {
             SampleEsmm s;
             s.payable = QStringLiteral("1000.01");
             return s;
         }()) << ""
                                                    << "Aktarıldı (yeni cari E0000001)";
-        QTest::newRow("another currency") << EsmmXml(dollars) << ""
-                                          << "Döviz: USD";
-        QTest::newRow("a tax the books do not know") << EsmmXml(otherTax) << ""
-                                                     << "Uyuşmuyor: tanınmayan vergi kodu 0059";
-        QTest::newRow("another issuer") << EsmmXml(SampleEsmm()) << "9999999999"
-                                        << "Uyuşmuyor: düzenleyen 1111111111, defterin sahibi 9999999999";
-        QTest::newRow("the holder's own") << EsmmXml(SampleEsmm()) << "1111111111"
-                                          << "Aktarıldı (yeni cari E0000001)";
-        QTest::newRow("another XML") << QByteArray("<?xml version=\"1.0\"?><Invoice xmlns=\"urn:x\"/>") << ""
-                                     << "Okunamadı: e-SMM değil";
-        QTest::newRow("garbage") << QByteArray("\x89PNG\r\n\x1a\n garbage") << ""
-                                 << "Okunamadı: XML hatası (satır 1)";
-        QTest::newRow("empty file") << QByteArray() << ""
-                                    << "Okunamadı: boş dosya";
+        QTest::newRow("another currency") << EsmmXml(dollars) << u""_s << u"Döviz: USD"_s;
+        QTest::newRow("a tax the books do not know")
+            << EsmmXml(otherTax) << u""_s << u"Uyuşmuyor: tanınmayan vergi kodu 0059"_s;
+        QTest::newRow("another issuer") << EsmmXml(SampleEsmm()) << u"9999999999"_s
+                                        << u"Uyuşmuyor: düzenleyen 1111111111, defterin sahibi 9999999999"_s;
+        QTest::newRow("the holder's own")
+            << EsmmXml(SampleEsmm()) << u"1111111111"_s << u"Aktarıldı (yeni cari E0000001)"_s;
+        QTest::newRow("another XML") << QByteArray("<?xml version=\"1.0\"?><Invoice xmlns=\"urn:x\"/>") << u""_s
+                                     << u"Okunamadı: e-SMM değil"_s;
+        QTest::newRow("garbage") << QByteArray("\x89PNG\r\n\x1a\n garbage") << u""_s
+                                 << u"Okunamadı: XML hatası (satır 1)"_s;
+        QTest::newRow("empty file") << QByteArray() << u""_s << u"Okunamadı: boş dosya"_s;
         QTest::newRow("entity expansion")
             << QByteArray("<?xml version=\"1.0\"?><!DOCTYPE a [<!ENTITY b \"bbbbbbbb\">"
                           "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;\">]><eArsivVeri>&c;</eArsivVeri>")
-            << ""
-            << "Okunamadı: belge tür tanımı (DTD) içeriyor";
+            << u""_s << u"Okunamadı: belge tür tanımı (DTD) içeriyor"_s;
     }
 
     void heldBackDocumentsPostNothing()
@@ -184,8 +183,8 @@ private slots:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("status");
-        QTest::newRow("truncated") << QByteArray() << "Okunamadı: ZIP dosyası okunamadı (bozuk ya da eksik)";
-        QTest::newRow("an entry of 5 MB") << QByteArray(5 * 1024 * 1024, ' ') << "Okunamadı: belge 4 MB'tan büyük";
+        QTest::newRow("truncated") << QByteArray() << u"Okunamadı: ZIP dosyası okunamadı (bozuk ya da eksik)"_s;
+        QTest::newRow("an entry of 5 MB") << QByteArray(5 * 1024 * 1024, ' ') << u"Okunamadı: belge 4 MB'tan büyük"_s;
     }
 
     // A damaged ZIP file and an entry that would take too much memory are refused, the rest of the

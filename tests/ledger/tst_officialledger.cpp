@@ -22,6 +22,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QDate today(2026, 11, 16);
@@ -156,9 +158,9 @@ private slots:
         QTest::addColumn<bool>("pageNumbers");
         QTest::addColumn<QString>("pages");
         // A page holds six lines of head and 54 rows before the line count reaches 60.
-        QTest::newRow("two pages") << 56 << false << "ledger/pages/official-two-pages.txt";
-        QTest::newRow("the last row ends a page") << 54 << false << "ledger/pages/official-last-row-ends-page.txt";
-        QTest::newRow("page numbers") << 56 << true << "ledger/pages/official-page-numbers.txt";
+        QTest::newRow("two pages") << 56 << false << u"ledger/pages/official-two-pages.txt"_s;
+        QTest::newRow("the last row ends a page") << 54 << false << u"ledger/pages/official-last-row-ends-page.txt"_s;
+        QTest::newRow("page numbers") << 56 << true << u"ledger/pages/official-page-numbers.txt"_s;
     }
 
     void printedPagesCarryTheirTotals()
@@ -179,10 +181,10 @@ private slots:
         QTest::addColumn<int>("side");
         QTest::addColumn<qint64>("withheld");
         QTest::addColumn<QString>("pages");
-        QTest::newRow("gider: the VAT only") << 1 << qint64(0) << "ledger/pages/official-expense.txt";
+        QTest::newRow("gider: the VAT only") << 1 << qint64(0) << u"ledger/pages/official-expense.txt"_s;
         // The withheld VAT's column takes 13 of the text's 42 columns: the page keeps its width.
         QTest::newRow("gelir with VAT withheld by the payer")
-            << 0 << qint64(81) << "ledger/pages/official-income-vat-withheld.txt";
+            << 0 << qint64(81) << u"ledger/pages/official-income-vat-withheld.txt"_s;
     }
 
     void onePageBooks()

@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestCurrency : public QObject
 {
     Q_OBJECT
@@ -12,17 +14,17 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<qint64>("raw");
-        QTest::newRow("whole") << "12" << qint64(120000);
-        QTest::newRow("four decimals") << "1.2345" << qint64(12345);
-        QTest::newRow("no leading zero") << ".5" << qint64(5000);
-        QTest::newRow("negative") << "-1234.5" << qint64(-12345000);
-        QTest::newRow("blanks around") << "  7.25 " << qint64(72500);
-        QTest::newRow("fifth decimal below half") << "1.23454" << qint64(12345);
-        QTest::newRow("fifth decimal above half") << "1.23456" << qint64(12346);
-        QTest::newRow("tie to even, down") << "1.23445" << qint64(12344);
-        QTest::newRow("tie to even, up") << "1.23455" << qint64(12346);
-        QTest::newRow("past the tie") << "1.234450001" << qint64(12345);
-        QTest::newRow("largest") << "922337203685477.5807" << std::numeric_limits<qint64>::max();
+        QTest::newRow("whole") << u"12"_s << qint64(120000);
+        QTest::newRow("four decimals") << u"1.2345"_s << qint64(12345);
+        QTest::newRow("no leading zero") << u".5"_s << qint64(5000);
+        QTest::newRow("negative") << u"-1234.5"_s << qint64(-12345000);
+        QTest::newRow("blanks around") << u"  7.25 "_s << qint64(72500);
+        QTest::newRow("fifth decimal below half") << u"1.23454"_s << qint64(12345);
+        QTest::newRow("fifth decimal above half") << u"1.23456"_s << qint64(12346);
+        QTest::newRow("tie to even, down") << u"1.23445"_s << qint64(12344);
+        QTest::newRow("tie to even, up") << u"1.23455"_s << qint64(12346);
+        QTest::newRow("past the tie") << u"1.234450001"_s << qint64(12345);
+        QTest::newRow("largest") << u"922337203685477.5807"_s << std::numeric_limits<qint64>::max();
     }
 
     void fromString()
@@ -37,10 +39,10 @@ private slots:
     void refusesWhatIsNoNumber_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("empty") << "";
-        QTest::newRow("letters") << "abc";
-        QTest::newRow("two points") << "1.2.3";
-        QTest::newRow("too large") << "922337203685478";
+        QTest::newRow("empty") << u""_s;
+        QTest::newRow("letters") << u"abc"_s;
+        QTest::newRow("two points") << u"1.2.3"_s;
+        QTest::newRow("too large") << u"922337203685478"_s;
     }
 
     void refusesWhatIsNoNumber()
@@ -75,19 +77,19 @@ private slots:
         const qint64 max = std::numeric_limits<qint64>::max();
         QTest::addColumn<Currency>("result");
         QTest::addColumn<QString>("text");
-        QTest::newRow("largest") << Currency::fromRaw(max - 1) + Currency::fromRaw(1) << "922337203685477.5807";
-        QTest::newRow("past the largest") << Currency::fromRaw(max) + Currency::fromRaw(1) << "Taşma";
-        QTest::newRow("below the smallest") << Currency::fromRaw(-max) - Currency::fromRaw(1) << "Taşma";
+        QTest::newRow("largest") << Currency::fromRaw(max - 1) + Currency::fromRaw(1) << u"922337203685477.5807"_s;
+        QTest::newRow("past the largest") << Currency::fromRaw(max) + Currency::fromRaw(1) << u"Taşma"_s;
+        QTest::newRow("below the smallest") << Currency::fromRaw(-max) - Currency::fromRaw(1) << u"Taşma"_s;
         QTest::newRow("gross and VAT of 900 trillion")
-            << Currency::fromUnits(900000000000000) + Currency::fromUnits(162000000000000) << "Taşma";
+            << Currency::fromUnits(900000000000000) + Currency::fromUnits(162000000000000) << u"Taşma"_s;
         QTest::newRow("an overflow stays one")
-            << (Currency::fromRaw(max) + Currency::fromRaw(1)) - Currency::fromUnits(5) << "Taşma";
-        QTest::newRow("negated") << -Currency::overflow() << "Taşma";
-        QTest::newRow("its size") << Currency::overflow().magnitude() << "Taşma";
+            << (Currency::fromRaw(max) + Currency::fromRaw(1)) - Currency::fromUnits(5) << u"Taşma"_s;
+        QTest::newRow("negated") << -Currency::overflow() << u"Taşma"_s;
+        QTest::newRow("its size") << Currency::overflow().magnitude() << u"Taşma"_s;
         Currency running = Currency::fromRaw(max - 10);
         running += Currency::fromRaw(20);
         running -= Currency::fromRaw(20);
-        QTest::newRow("a running total") << running << "Taşma";
+        QTest::newRow("a running total") << running << u"Taşma"_s;
     }
 
     void sumsThatCannotBeHeldOverflow()
@@ -104,12 +106,12 @@ private slots:
     {
         QTest::addColumn<qint64>("raw");
         QTest::addColumn<QString>("text");
-        QTest::newRow("zero") << qint64(0) << "0";
-        QTest::newRow("whole") << qint64(120000) << "12";
-        QTest::newRow("trailing zeros dropped") << qint64(12345000) << "1234.5";
-        QTest::newRow("small negative") << qint64(-500) << "-0.05";
-        QTest::newRow("smallest") << std::numeric_limits<qint64>::min() + 1 << "-922337203685477.5807";
-        QTest::newRow("the overflow mark") << std::numeric_limits<qint64>::min() << "Taşma";
+        QTest::newRow("zero") << qint64(0) << u"0"_s;
+        QTest::newRow("whole") << qint64(120000) << u"12"_s;
+        QTest::newRow("trailing zeros dropped") << qint64(12345000) << u"1234.5"_s;
+        QTest::newRow("small negative") << qint64(-500) << u"-0.05"_s;
+        QTest::newRow("smallest") << std::numeric_limits<qint64>::min() + 1 << u"-922337203685477.5807"_s;
+        QTest::newRow("the overflow mark") << std::numeric_limits<qint64>::min() << u"Taşma"_s;
     }
 
     void toString()

@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestDayNumber : public QObject
 {
     Q_OBJECT
@@ -27,10 +29,10 @@ private slots:
     {
         QTest::addColumn<QDate>("date");
         QTest::addColumn<QString>("text");
-        QTest::newRow("leading zeros") << QDate(2026, 1, 5) << "05.01.2026";
-        QTest::newRow("two-digit day and month") << QDate(2026, 12, 31) << "31.12.2026";
-        QTest::newRow("early year") << QDate(987, 10, 1) << "01.10.0987";
-        QTest::newRow("invalid") << QDate() << "";
+        QTest::newRow("leading zeros") << QDate(2026, 1, 5) << u"05.01.2026"_s;
+        QTest::newRow("two-digit day and month") << QDate(2026, 12, 31) << u"31.12.2026"_s;
+        QTest::newRow("early year") << QDate(987, 10, 1) << u"01.10.0987"_s;
+        QTest::newRow("invalid") << QDate() << u""_s;
     }
 
     void formattedDates()

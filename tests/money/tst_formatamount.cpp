@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestFormatAmount : public QObject
 {
     Q_OBJECT
@@ -18,26 +20,26 @@ void TestFormatAmount::formats_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("group");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("zero is empty") << 2 << "0" << 3 << "";
-    QTest::newRow("0.00 is empty") << 2 << "0.00" << 3 << "";
-    QTest::newRow("not a number is empty") << 2 << "abc" << 3 << "";
-    QTest::newRow("no leading zero") << 2 << "0.5" << 3 << ".50";
-    QTest::newRow("negative below one") << 2 << "-0.5" << 3 << "-.50";
-    QTest::newRow("grouped") << 2 << "1234.5" << 3 << "1,234.50";
-    QTest::newRow("not grouped") << 2 << "1234.5" << 0 << "1234.50";
-    QTest::newRow("millions") << 2 << "1234567.89" << 3 << "1,234,567.89";
-    QTest::newRow("negative grouped") << 2 << "-1234.5" << 3 << "-1,234.50";
-    QTest::newRow("formatter rounds half up") << 2 << "2.345" << 3 << "2.35";
-    QTest::newRow("rounding carries") << 2 << "999.995" << 3 << "1,000.00";
-    QTest::newRow("no decimals") << 0 << "1234.5" << 3 << "1,235";
-    QTest::newRow("no decimals below half") << 0 << "0.4" << 3 << "0";
-    QTest::newRow("trailing text ignored") << 2 << "12.5 YTL" << 3 << "12.50";
-    QTest::newRow("three decimals") << 3 << "12" << 3 << "12.000";
-    QTest::newRow("four decimals") << 4 << "-1.2345" << 3 << "-1.2345";
-    QTest::newRow("five decimals") << 5 << "1.2345" << 3 << "1.23450";
-    QTest::newRow("rounds to nothing, no sign") << 2 << "-0.004" << 3 << ".00";
-    QTest::newRow("largest") << 2 << "922337203685477.5807" << 3 << "922,337,203,685,477.58";
-    QTest::newRow("largest, no decimals") << 0 << "922337203685477.5807" << 3 << "922,337,203,685,478";
+    QTest::newRow("zero is empty") << 2 << u"0"_s << 3 << u""_s;
+    QTest::newRow("0.00 is empty") << 2 << u"0.00"_s << 3 << u""_s;
+    QTest::newRow("not a number is empty") << 2 << u"abc"_s << 3 << u""_s;
+    QTest::newRow("no leading zero") << 2 << u"0.5"_s << 3 << u".50"_s;
+    QTest::newRow("negative below one") << 2 << u"-0.5"_s << 3 << u"-.50"_s;
+    QTest::newRow("grouped") << 2 << u"1234.5"_s << 3 << u"1,234.50"_s;
+    QTest::newRow("not grouped") << 2 << u"1234.5"_s << 0 << u"1234.50"_s;
+    QTest::newRow("millions") << 2 << u"1234567.89"_s << 3 << u"1,234,567.89"_s;
+    QTest::newRow("negative grouped") << 2 << u"-1234.5"_s << 3 << u"-1,234.50"_s;
+    QTest::newRow("formatter rounds half up") << 2 << u"2.345"_s << 3 << u"2.35"_s;
+    QTest::newRow("rounding carries") << 2 << u"999.995"_s << 3 << u"1,000.00"_s;
+    QTest::newRow("no decimals") << 0 << u"1234.5"_s << 3 << u"1,235"_s;
+    QTest::newRow("no decimals below half") << 0 << u"0.4"_s << 3 << u"0"_s;
+    QTest::newRow("trailing text ignored") << 2 << u"12.5 YTL"_s << 3 << u"12.50"_s;
+    QTest::newRow("three decimals") << 3 << u"12"_s << 3 << u"12.000"_s;
+    QTest::newRow("four decimals") << 4 << u"-1.2345"_s << 3 << u"-1.2345"_s;
+    QTest::newRow("five decimals") << 5 << u"1.2345"_s << 3 << u"1.23450"_s;
+    QTest::newRow("rounds to nothing, no sign") << 2 << u"-0.004"_s << 3 << u".00"_s;
+    QTest::newRow("largest") << 2 << u"922337203685477.5807"_s << 3 << u"922,337,203,685,477.58"_s;
+    QTest::newRow("largest, no decimals") << 0 << u"922337203685477.5807"_s << 3 << u"922,337,203,685,478"_s;
 }
 
 void TestFormatAmount::formats()

@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestReceiptCalculation : public QObject
 {
     Q_OBJECT
@@ -19,15 +21,15 @@ void TestReceiptCalculation::amounts_data()
     QTest::addColumn<bool>("withhold");
     QTest::addColumn<bool>("levy");
     QTest::addColumn<QStringList>("expected"); // gross, stopaj, fon, net, kdv, total
-    QTest::newRow("gross, both ticked") << false << "1000" << true << true
+    QTest::newRow("gross, both ticked") << false << u"1000"_s << true << true
                                         << QStringList { "1000", "200", "20", "780", "180", "960" };
     QTest::newRow("gross, withholding only")
-        << false << "1000" << true << false << QStringList { "1000", "200", "0", "800", "180", "980" };
-    QTest::newRow("net, both ticked") << true << "780" << true << true
+        << false << u"1000"_s << true << false << QStringList { "1000", "200", "0", "800", "180", "980" };
+    QTest::newRow("net, both ticked") << true << u"780"_s << true << true
                                       << QStringList { "1114.2857", "222.86", "22.29", "780", "200.57", "980.57" };
     QTest::newRow("levy without withholding")
-        << false << "1000" << false << true << QStringList { "1000", "0", "0", "1000", "180", "1180" };
-    QTest::newRow("nothing ticked") << false << "333.33" << false << false
+        << false << u"1000"_s << false << true << QStringList { "1000", "0", "0", "1000", "180", "1180" };
+    QTest::newRow("nothing ticked") << false << u"333.33"_s << false << false
                                     << QStringList { "333.33", "0", "0", "333.33", "60", "393.33" };
 }
 

@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestRoundAmount : public QObject
 {
     Q_OBJECT
@@ -18,36 +20,21 @@ void TestRoundAmount::rounds_data()
     QTest::addColumn<int>("decimals");
     QTest::addColumn<QString>("amount");
     QTest::addColumn<QString>("rounded");
-    QTest::newRow("1.2344") << 2 << "1.2344"
-                            << "1.23";
-    QTest::newRow("1.2345 tie to even") << 2 << "1.2345"
-                                        << "1.24";
-    QTest::newRow("1.2346") << 2 << "1.2346"
-                            << "1.24";
-    QTest::newRow("1.2445 tie to even") << 2 << "1.2445"
-                                        << "1.24";
-    QTest::newRow("1.2446") << 2 << "1.2446"
-                            << "1.25";
-    QTest::newRow("0.0045") << 2 << "0.0045"
-                            << "0";
-    QTest::newRow("0.0046") << 2 << "0.0046"
-                            << "0.01";
-    QTest::newRow("246.912") << 2 << "246.912"
-                             << "246.91";
-    QTest::newRow("12.005") << 2 << "12.005"
-                            << "12.01";
-    QTest::newRow("-1.2351") << 2 << "-1.2351"
-                             << "-1.23";
-    QTest::newRow("-1.2345") << 2 << "-1.2345"
-                             << "-1.23";
-    QTest::newRow("no decimals") << 0 << "2.4995"
-                                 << "2";
-    QTest::newRow("no decimals, up") << 0 << "2.5"
-                                     << "3";
-    QTest::newRow("three decimals") << 3 << "0.125"
-                                    << "0.126";
-    QTest::newRow("four decimals keep the added half") << 4 << "1.2344"
-                                                       << "1.2349";
+    QTest::newRow("1.2344") << 2 << u"1.2344"_s << u"1.23"_s;
+    QTest::newRow("1.2345 tie to even") << 2 << u"1.2345"_s << u"1.24"_s;
+    QTest::newRow("1.2346") << 2 << u"1.2346"_s << u"1.24"_s;
+    QTest::newRow("1.2445 tie to even") << 2 << u"1.2445"_s << u"1.24"_s;
+    QTest::newRow("1.2446") << 2 << u"1.2446"_s << u"1.25"_s;
+    QTest::newRow("0.0045") << 2 << u"0.0045"_s << u"0"_s;
+    QTest::newRow("0.0046") << 2 << u"0.0046"_s << u"0.01"_s;
+    QTest::newRow("246.912") << 2 << u"246.912"_s << u"246.91"_s;
+    QTest::newRow("12.005") << 2 << u"12.005"_s << u"12.01"_s;
+    QTest::newRow("-1.2351") << 2 << u"-1.2351"_s << u"-1.23"_s;
+    QTest::newRow("-1.2345") << 2 << u"-1.2345"_s << u"-1.23"_s;
+    QTest::newRow("no decimals") << 0 << u"2.4995"_s << u"2"_s;
+    QTest::newRow("no decimals, up") << 0 << u"2.5"_s << u"3"_s;
+    QTest::newRow("three decimals") << 3 << u"0.125"_s << u"0.126"_s;
+    QTest::newRow("four decimals keep the added half") << 4 << u"1.2344"_s << u"1.2349"_s;
 }
 
 void TestRoundAmount::rounds()

@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int linesPerPage = 12; // with room for a footing of 6: six lines of head and rows
@@ -62,10 +64,10 @@ private slots:
         QTest::addColumn<bool>("totalsOnOwnPage");
         QTest::addColumn<int>("pages");
         QTest::addColumn<QString>("lastTotal");
-        QTest::newRow("page ends with the book") << 5 << false << 2 << "1,500.00";
-        QTest::newRow("totals on a page of their own") << 5 << true << 3 << "1,500.00";
-        QTest::newRow("footing after a short page") << 4 << true << 2 << "1,000.00";
-        QTest::newRow("nothing printed") << 0 << true << 0 << "";
+        QTest::newRow("page ends with the book") << 5 << false << 2 << u"1,500.00"_s;
+        QTest::newRow("totals on a page of their own") << 5 << true << 3 << u"1,500.00"_s;
+        QTest::newRow("footing after a short page") << 4 << true << 2 << u"1,000.00"_s;
+        QTest::newRow("nothing printed") << 0 << true << 0 << u""_s;
     }
 
     void lastRowFillingAPageEndsThere()
@@ -113,12 +115,12 @@ private slots:
     {
         QTest::addColumn<QVariant>("cell");
         QTest::addColumn<QString>("printed");
-        QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(QStringLiteral("1234.5"))) << "1,234.50";
-        QTest::newRow("zero amount: blank") << QVariant::fromValue(Currency()) << "";
-        QTest::newRow("number") << QVariant(10001) << "10001";
-        QTest::newRow("zero number: blank") << QVariant(0) << "";
-        QTest::newRow("date") << QVariant(QDate(2026, 12, 31)) << "31.12.2026";
-        QTest::newRow("text as it is") << QVariant(QStringLiteral(" 0 ")) << " 0 ";
+        QTest::newRow("amount") << QVariant::fromValue(Currency::fromString(QStringLiteral("1234.5"))) << u"1,234.50"_s;
+        QTest::newRow("zero amount: blank") << QVariant::fromValue(Currency()) << u""_s;
+        QTest::newRow("number") << QVariant(10001) << u"10001"_s;
+        QTest::newRow("zero number: blank") << QVariant(0) << u""_s;
+        QTest::newRow("date") << QVariant(QDate(2026, 12, 31)) << u"31.12.2026"_s;
+        QTest::newRow("text as it is") << QVariant(QStringLiteral(" 0 ")) << u" 0 "_s;
     }
 
     void printedCells()

@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestRawText : public QObject
 {
     Q_OBJECT
@@ -12,17 +14,17 @@ private slots:
         QTest::addColumn<int>("en");
         QTest::addColumn<int>("algn");
         QTest::addColumn<QString>("fitted");
-        QTest::newRow("left") << "AB" << 5 << 0 << "AB   ";
-        QTest::newRow("right") << "AB" << 5 << 1 << "   AB";
-        QTest::newRow("centred, one short") << "AB" << 5 << 2 << " AB ";
-        QTest::newRow("centred, even") << "AB" << 6 << 2 << "  AB  ";
-        QTest::newRow("unknown alignment is left") << "AB" << 4 << 7 << "AB  ";
-        QTest::newRow("own width") << "ABC" << 0 << 1 << "ABC";
-        QTest::newRow("left cut") << "ABCDEF" << 4 << 0 << "ABCD";
-        QTest::newRow("right, too wide: marks, never the last digits") << "10001" << 4 << 1 << "####";
-        QTest::newRow("right, just fits") << "9999" << 4 << 1 << "9999";
-        QTest::newRow("centred, one too long") << "ABCDE" << 4 << 2 << "ABCDE";
-        QTest::newRow("centred, far too long") << "ABCDEFGH" << 4 << 2 << "ABCDEFGH";
+        QTest::newRow("left") << u"AB"_s << 5 << 0 << u"AB   "_s;
+        QTest::newRow("right") << u"AB"_s << 5 << 1 << u"   AB"_s;
+        QTest::newRow("centred, one short") << u"AB"_s << 5 << 2 << u" AB "_s;
+        QTest::newRow("centred, even") << u"AB"_s << 6 << 2 << u"  AB  "_s;
+        QTest::newRow("unknown alignment is left") << u"AB"_s << 4 << 7 << u"AB  "_s;
+        QTest::newRow("own width") << u"ABC"_s << 0 << 1 << u"ABC"_s;
+        QTest::newRow("left cut") << u"ABCDEF"_s << 4 << 0 << u"ABCD"_s;
+        QTest::newRow("right, too wide: marks, never the last digits") << u"10001"_s << 4 << 1 << u"####"_s;
+        QTest::newRow("right, just fits") << u"9999"_s << 4 << 1 << u"9999"_s;
+        QTest::newRow("centred, one too long") << u"ABCDE"_s << 4 << 2 << u"ABCDE"_s;
+        QTest::newRow("centred, far too long") << u"ABCDEFGH"_s << 4 << 2 << u"ABCDEFGH"_s;
     }
 
     void fitting()
@@ -42,24 +44,24 @@ private slots:
         QTest::addColumn<bool>("underline");
         QTest::addColumn<QByteArray>("expected");
         QTest::newRow("Turkish letters in code page 857")
-            << "ŞİŞLİ ÇAĞ" << false << false << false << QByteArray("\x9e\x98\x9e\x4c\x98\x20\x80\x41\xa6");
+            << u"ŞİŞLİ ÇAĞ"_s << false << false << false << QByteArray("\x9e\x98\x9e\x4c\x98\x20\x80\x41\xa6");
         QTest::newRow("lower-case letters")
-            << "çğıöşü" << false << false << false << QByteArray("\x87\xa7\x8d\x94\x9f\x81");
+            << u"çğıöşü"_s << false << false << false << QByteArray("\x87\xa7\x8d\x94\x9f\x81");
         QTest::newRow("other letters keep Windows-1254")
-            << "Âé€" << false << false << false << QByteArray("\xc2\xe9\x80");
-        QTest::newRow("bold") << "A" << true << false << false
+            << u"Âé€"_s << false << false << false << QByteArray("\xc2\xe9\x80");
+        QTest::newRow("bold") << u"A"_s << true << false << false
                               << QByteArray("\x1bG"
                                             "A"
                                             "\x1bH");
-        QTest::newRow("italic") << "A" << false << true << false
+        QTest::newRow("italic") << u"A"_s << false << true << false
                                 << QByteArray("\x1b"
                                               "4A\x1b"
                                               "5");
-        QTest::newRow("underline") << "A" << false << false << true
+        QTest::newRow("underline") << u"A"_s << false << false << true
                                    << QByteArray("\x1b-\x01"
                                                  "A\x1b-\x00",
                                           7);
-        QTest::newRow("all three nest bold, italic, underline") << "A" << true << true << true
+        QTest::newRow("all three nest bold, italic, underline") << u"A"_s << true << true << true
                                                                 << QByteArray("\x1b-\x01\x1b"
                                                                               "4\x1bG"
                                                                               "A\x1bH\x1b"

@@ -15,6 +15,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 // The raw channel and the printer settings against a real scheduler whose one queue is a TCP
 // listener standing in for a network dot-matrix printer.
 class TestSpooler : public QObject
@@ -70,14 +72,10 @@ private slots:
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("suggested");
-        QTest::newRow("another printout") << "EMANET ALINDI MAKBUZU"
-                                          << "EMANET ALINDI MAKBUZU.pdf";
-        QTest::newRow("the same printout again") << "S.M. Makbuzu"
-                                                 << "S.M. Makbuzu (2).pdf";
-        QTest::newRow("a slash in the title") << "Borç/Alacak"
-                                              << "Borç-Alacak.pdf";
-        QTest::newRow("no title") << ""
-                                  << "Belge.pdf";
+        QTest::newRow("another printout") << u"EMANET ALINDI MAKBUZU"_s << u"EMANET ALINDI MAKBUZU.pdf"_s;
+        QTest::newRow("the same printout again") << u"S.M. Makbuzu"_s << u"S.M. Makbuzu (2).pdf"_s;
+        QTest::newRow("a slash in the title") << u"Borç/Alacak"_s << u"Borç-Alacak.pdf"_s;
+        QTest::newRow("no title") << u""_s << u"Belge.pdf"_s;
     }
 
     // The file name comes from the printout's title, in the folder of the previous file, and never
@@ -160,10 +158,10 @@ private slots:
         QTest::addColumn<QString>("pdfFile");
         QTest::addColumn<QString>("message");
         QTest::newRow("PDF in a folder that is not there")
-            << int(Prnx::Graphic) << "/yok/klasör/Kasa.pdf"
-            << "Yazdırılamadı\nDosya: /yok/klasör/Kasa.pdf\nNeden: klasör bulunamadı";
-        QTest::newRow("raw job refused") << int(Prnx::Raw) << ""
-                                         << "Yazıcı Açılamadı\nYazıcı: nokta\nNeden: yazıcı kuyruğu işi kabul etmedi";
+            << int(Prnx::Graphic) << u"/yok/klasör/Kasa.pdf"_s
+            << u"Yazdırılamadı\nDosya: /yok/klasör/Kasa.pdf\nNeden: klasör bulunamadı"_s;
+        QTest::newRow("raw job refused") << int(
+            Prnx::Raw) << u""_s << u"Yazıcı Açılamadı\nYazıcı: nokta\nNeden: yazıcı kuyruğu işi kabul etmedi"_s;
     }
 
     // The PDF file cannot be written, or the spooler takes no jobs: nothing claims to have printed.

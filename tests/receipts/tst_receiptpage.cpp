@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 Q_DECLARE_METATYPE(LayoutRow)
 
 class TestReceiptPage : public QObject
@@ -50,18 +52,18 @@ void TestReceiptPage::placing_data()
     QTest::addColumn<LayoutRow>("row");
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("text"); // the line, right blanks trimmed
-    QTest::newRow("name at column 5") << LayoutRow { 0, 20, 5, 3, {} } << 3 << "    Şükrü Işık";
-    QTest::newRow("amount too wide keeps its end") << LayoutRow { 7, 8, 1, 1, {} } << 1 << "4,567.89";
-    QTest::newRow("right-aligned rate") << LayoutRow { 16, 6, 1, 2, {} } << 2 << "  18.5";
+    QTest::newRow("name at column 5") << LayoutRow { 0, 20, 5, 3, {} } << 3 << u"    Şükrü Işık"_s;
+    QTest::newRow("amount too wide keeps its end") << LayoutRow { 7, 8, 1, 1, {} } << 1 << u"4,567.89"_s;
+    QTest::newRow("right-aligned rate") << LayoutRow { 16, 6, 1, 2, {} } << 2 << u"  18.5"_s;
     QTest::newRow("column 75, width 10") << LayoutRow { 6, 10, 75, 4, {} } << 4 << QString(74, u' ') + "Açıkla";
-    QTest::newRow("tax office and number") << LayoutRow { 5, 20, 1, 5, {} } << 5 << "Çankaya - 123";
+    QTest::newRow("tax office and number") << LayoutRow { 5, 20, 1, 5, {} } << 5 << u"Çankaya - 123"_s;
     QTest::newRow("total in words") << LayoutRow { 13, 40, 1, 33, QStringLiteral(" Yalnız ") } << 33
-                                    << "Yalnızdokuzyüzaltmış TL";
-    QTest::newRow("free text as stored") << LayoutRow { 19, 10, 1, 6, QStringLiteral(" Sayın ") } << 6 << " Sayın";
-    QTest::newRow("line 0 is off the page") << LayoutRow { 0, 10, 1, 0, {} } << 0 << "";
-    QTest::newRow("line 34 is off the page") << LayoutRow { 0, 10, 1, 34, {} } << 0 << "";
-    QTest::newRow("column 0 cannot be placed") << LayoutRow { 0, 10, 0, 3, {} } << 0 << "";
-    QTest::newRow("position rounds halves to even") << LayoutRow { 17, 4.5f, 2.5f, 7.5f, {} } << 8 << " 501";
+                                    << u"Yalnızdokuzyüzaltmış TL"_s;
+    QTest::newRow("free text as stored") << LayoutRow { 19, 10, 1, 6, QStringLiteral(" Sayın ") } << 6 << u" Sayın"_s;
+    QTest::newRow("line 0 is off the page") << LayoutRow { 0, 10, 1, 0, {} } << 0 << u""_s;
+    QTest::newRow("line 34 is off the page") << LayoutRow { 0, 10, 1, 34, {} } << 0 << u""_s;
+    QTest::newRow("column 0 cannot be placed") << LayoutRow { 0, 10, 0, 3, {} } << 0 << u""_s;
+    QTest::newRow("position rounds halves to even") << LayoutRow { 17, 4.5f, 2.5f, 7.5f, {} } << 8 << u" 501"_s;
 }
 
 void TestReceiptPage::placing()
@@ -84,18 +86,10 @@ void TestReceiptPage::wordsFollowTheReceiptDate_data()
     QTest::addColumn<QString>("date");
     QTest::addColumn<QString>("total");
     QTest::addColumn<QString>("line"); // line 33, right blanks trimmed
-    QTest::newRow("last day of the YTL") << "31.12.2008"
-                                         << "1000.50"
-                                         << "Yalnızbin YTL elli YKR";
-    QTest::newRow("first day of the TL") << "01.01.2009"
-                                         << "1000.50"
-                                         << "Yalnızbin TL elli Kr";
-    QTest::newRow("zero") << "01.01.2009"
-                          << "0"
-                          << "Yalnız TL";
-    QTest::newRow("kuruş alone") << "31.12.2008"
-                                 << "0.05"
-                                 << "Yalnız YTL beş YKR";
+    QTest::newRow("last day of the YTL") << u"31.12.2008"_s << u"1000.50"_s << u"Yalnızbin YTL elli YKR"_s;
+    QTest::newRow("first day of the TL") << u"01.01.2009"_s << u"1000.50"_s << u"Yalnızbin TL elli Kr"_s;
+    QTest::newRow("zero") << u"01.01.2009"_s << u"0"_s << u"Yalnız TL"_s;
+    QTest::newRow("kuruş alone") << u"31.12.2008"_s << u"0.05"_s << u"Yalnız YTL beş YKR"_s;
 }
 
 void TestReceiptPage::wordsFollowTheReceiptDate()
@@ -114,8 +108,8 @@ void TestReceiptPage::laterRowsOverwriteEarlierOnes_data()
 {
     QTest::addColumn<bool>("numberLast");
     QTest::addColumn<QString>("text");
-    QTest::newRow("number over the name") << true << "    Şük501 şık";
-    QTest::newRow("name over the number") << false << "    Şükrü Işık";
+    QTest::newRow("number over the name") << true << u"    Şük501 şık"_s;
+    QTest::newRow("name over the number") << false << u"    Şükrü Işık"_s;
 }
 
 // Two rows on one line whose columns overlap: the row added later wins, blanks and all.

@@ -13,8 +13,8 @@
 #include "receipts/ReceiptScreen.h"
 #include "testsupport/Books.h"
 #include "testsupport/EsmmSamples.h"
-#include "testsupport/PdfText.h"
 #include "testsupport/KeyBurst.h"
+#include "testsupport/PdfText.h"
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
@@ -255,36 +255,16 @@ private slots:
         QTest::addColumn<QString>("words");
         QTest::addColumn<QString>("kept"); // the receipt's own record: share in percent | withheld VAT
         // A gross of 1,000.00 with 20 % withheld: net 800.00.
-        QTest::newRow("nothing withheld") << 18.f << ""
-                                          << ""
-                                          << ""
-                                          << "980.00"
-                                          << "dokuzyüzseksen TL"
-                                          << "";
-        QTest::newRow("5/10") << 18.f << "5"
-                              << ""
-                              << "90.00"
-                              << "890.00"
-                              << "sekizyüzdoksan TL"
-                              << "50|900000";
-        QTest::newRow("9/10") << 18.f << "9"
-                              << ""
-                              << "162.00"
-                              << "818.00"
-                              << "sekizyüzonsekiz TL"
-                              << "90|1620000";
-        QTest::newRow("9/10 overwritten") << 18.f << "9"
-                                          << "150"
-                                          << "150.00"
-                                          << "830.00"
-                                          << "sekizyüzotuz TL"
-                                          << "90|1500000";
-        QTest::newRow("today's rates: the payer pays the gross") << 20.f << ""
-                                                                 << ""
-                                                                 << ""
-                                                                 << "1,000.00"
-                                                                 << "bin TL"
-                                                                 << "";
+        QTest::newRow("nothing withheld")
+            << 18.f << u""_s << u""_s << u""_s << u"980.00"_s << u"dokuzyüzseksen TL"_s << u""_s;
+        QTest::newRow("5/10") << 18.f << u"5"_s << u""_s << u"90.00"_s << u"890.00"_s << u"sekizyüzdoksan TL"_s
+                              << u"50|900000"_s;
+        QTest::newRow("9/10") << 18.f << u"9"_s << u""_s << u"162.00"_s << u"818.00"_s << u"sekizyüzonsekiz TL"_s
+                              << u"90|1620000"_s;
+        QTest::newRow("9/10 overwritten")
+            << 18.f << u"9"_s << u"150"_s << u"150.00"_s << u"830.00"_s << u"sekizyüzotuz TL"_s << u"90|1500000"_s;
+        QTest::newRow("today's rates: the payer pays the gross")
+            << 20.f << u""_s << u""_s << u""_s << u"1,000.00"_s << u"bin TL"_s << u""_s;
     }
 
     // The payer keeps tenths of the VAT and pays them to the tax office: the receipt shows them and
@@ -403,10 +383,8 @@ private slots:
     {
         QTest::addColumn<QString>("table");
         QTest::addColumn<QString>("message");
-        QTest::newRow("account transactions") << "carhar"
-                                              << "Kayıt Cari Hareketlere Kaydedilemedi..";
-        QTest::newRow("ledger") << "defter"
-                                << "Kayıt Defter Hareketlere Kaydedilemedi..";
+        QTest::newRow("account transactions") << u"carhar"_s << u"Kayıt Cari Hareketlere Kaydedilemedi.."_s;
+        QTest::newRow("ledger") << u"defter"_s << u"Kayıt Defter Hareketlere Kaydedilemedi.."_s;
     }
 
     void refusedPostingIsReported()
@@ -445,9 +423,9 @@ private slots:
     {
         QTest::addColumn<int>("emptied");
         QTest::addColumn<QString>("message");
-        QTest::newRow("no date") << 1 << "Hatalı Tarih Girildi.\nMakbuz Kaydedilmedi.";
-        QTest::newRow("no account") << 2 << "Cari Kod Girilmemiş.\nMakbuz Kaydedilmedi.";
-        QTest::newRow("no amount") << 9 << "Tutar Yazılmamış..";
+        QTest::newRow("no date") << 1 << u"Hatalı Tarih Girildi.\nMakbuz Kaydedilmedi."_s;
+        QTest::newRow("no account") << 2 << u"Cari Kod Girilmemiş.\nMakbuz Kaydedilmedi."_s;
+        QTest::newRow("no amount") << 9 << u"Tutar Yazılmamış.."_s;
     }
 
     void incompleteDepositIsRefused()
