@@ -59,7 +59,6 @@ private:
     {
         m_screen->findChild<QCheckBox *>(QStringLiteral("Check1_%1").arg(type))->setChecked(on);
     }
-    static QStringList shownRows(const DcList *list);
     void seedMixedBook();
     QByteArray printRaw();
 
@@ -91,18 +90,6 @@ template <typename ScreenType> ScreenType *TestAccountReports::open(const char *
     auto *screen = m_kit->open<ScreenType>(item, form);
     m_screen = screen;
     return screen;
-}
-
-QStringList TestAccountReports::shownRows(const DcList *list)
-{
-    QStringList rows;
-    for (int row = 0; row < list->ListCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < list->view()->model()->columnCount(); ++column)
-            cells << list->view()->model()->index(row, column).data().toString();
-        rows << cells.join(u'|');
-    }
-    return rows;
 }
 
 // A customer with a negative debit, a staff member on the credit side, another account on the
@@ -168,11 +155,11 @@ void TestAccountReports::listedOnScreen()
     QVERIFY(screen->listWindow());
     QCOMPARE(screen->listWindow()->objectName(), QStringLiteral("Form11"));
     QCOMPARE(screen->listWindow()->windowTitle(), QStringLiteral("Genel Borç Alacak Listesi"));
-    QCOMPARE(shownRows(screen->listWindow()->list()), rows);
+    QCOMPARE(GridRows(screen->listWindow()->list()), rows);
     QCOMPARE(screen->listWindow()->list()->CaptionByName(3 - (types[1] ? 0 : 2), QStringLiteral("abak")),
         types[0] ? QStringLiteral("0") : QString()); // X1: settled, 0 on the credit side
     screen->listOnScreen(); // a second listing replaces the rows
-    QCOMPARE(shownRows(screen->listWindow()->list()), rows);
+    QCOMPARE(GridRows(screen->listWindow()->list()), rows);
 }
 
 void TestAccountReports::datesBoundTheSums_data()
@@ -199,7 +186,7 @@ void TestAccountReports::datesBoundTheSums()
     TypeIntoField(field(3), QStringLiteral("01042026"));
     TypeIntoField(field(0), firstCode);
     screen->listOnScreen();
-    QCOMPARE(shownRows(screen->listWindow()->list()), rows);
+    QCOMPARE(GridRows(screen->listWindow()->list()), rows);
 }
 
 QByteArray TestAccountReports::printRaw()
@@ -225,7 +212,7 @@ void TestAccountReports::sumBeyondTheMoneyTypeShowsOverflow()
     QVERIFY(screen);
     screen->listOnScreen();
     QVERIFY(m_kit->messages().entries().isEmpty());
-    QCOMPARE(shownRows(screen->listWindow()->list()),
+    QCOMPARE(GridRows(screen->listWindow()->list()),
         QStringList(
             { "K1|Kaya Hukuk|Taşma||Taşma|Taşma", "K2|Deniz Kaya|922,337,203,685,476.00||922,337,203,685,476.00|",
                 "X1|Ağaoğlu|500.00||500.00|", "|T O P L A M|Taşma||Taşma|Taşma" }));
@@ -235,7 +222,7 @@ void TestAccountReports::sumBeyondTheMoneyTypeShowsOverflow()
     TypeIntoField(field(0), QStringLiteral("K2"));
     TypeIntoField(field(1), QStringLiteral("K2"));
     statement->listOnScreen();
-    QCOMPARE(shownRows(statement->listWindow()->list()).mid(1, 1),
+    QCOMPARE(GridRows(statement->listWindow()->list()).mid(1, 1),
         QStringList({ "16.11.2026|2-SMM|||922,337,203,685,476.00||922,337,203,685,476.00 B" }));
     QCOMPARE(CutFigures(statement->listWindow()->list()), QStringList());
 }
@@ -298,7 +285,7 @@ void TestAccountReports::statementOnScreen()
     QTest::keyClick(field(0)->textBox(), Qt::Key_F7);
     QVERIFY(screen->listWindow());
     QCOMPARE(screen->listWindow()->windowTitle(), QStringLiteral("Cari Hareket Dökümü"));
-    QCOMPARE(shownRows(screen->listWindow()->list()),
+    QCOMPARE(GridRows(screen->listWindow()->list()),
         QStringList({ "K1||||||", "01.03.2026|2-SMM|||1,000.00||1,000.00 B", "02.03.2026|9-Diğer|||-200.00||800.00 B",
                         "01.05.2026|1-Nakit||||300.00|500.00 B", "|||Hesap Toplamı :|800.00|300.00|500.00 B",
                         "M5||||||", "01.06.2026|1-Nakit|||999.00||999.00 B", // no card: listed, no title
@@ -341,14 +328,14 @@ void TestAccountReports::turkishOrderAndCase()
     TypeIntoField(field(0), QStringLiteral("c"));
     TypeIntoField(field(1), QStringLiteral("i")); // İ: after IŞIK, before inci
     list->listOnScreen();
-    QCOMPARE(shownRows(list->listWindow()->list()),
+    QCOMPARE(GridRows(list->listWindow()->list()),
         QStringList({ "CEM|Kart CEM|20.00||20.00|", "ÇAM|Kart ÇAM|10.00||10.00|", "IŞIK|Kart IŞIK|100.00|40.00|60.00|",
             "|T O P L A M|130.00|40.00|90.00|" }));
 
     auto *statement = open<AccountStatementScreen>("mnucareks", "Form16");
     TypeIntoField(field(0), QStringLiteral("ı")); // I: after DENİZ
     statement->listOnScreen();
-    QCOMPARE(shownRows(statement->listWindow()->list()),
+    QCOMPARE(GridRows(statement->listWindow()->list()),
         QStringList({ "IŞIK|||Kart IŞIK|||", "01.03.2026|2-SMM|||100.00||100.00 B",
             "02.03.2026|1-Nakit||||40.00|60.00 B", "|||Hesap Toplamı :|100.00|40.00|60.00 B", "inci|||Kart inci|||",
             "05.03.2026|2-SMM|||5.00||5.00 B", "|||Hesap Toplamı :|5.00||5.00 B" }));
@@ -357,7 +344,7 @@ void TestAccountReports::turkishOrderAndCase()
     TypeIntoField(field(0), QStringLiteral("ışık"));
     TypeIntoField(field(1), QStringLiteral("IŞIK"));
     statement->listOnScreen();
-    QCOMPARE(shownRows(statement->listWindow()->list()),
+    QCOMPARE(GridRows(statement->listWindow()->list()),
         QStringList({ "IŞIK|||Kart IŞIK|||", "01.03.2026|2-SMM|||100.00||100.00 B",
             "02.03.2026|1-Nakit||||40.00|60.00 B", "|||Hesap Toplamı :|100.00|40.00|60.00 B" }));
 }

@@ -308,21 +308,13 @@ private:
     {
         return m_screen->findChild<QLabel *>(QStringLiteral("bakiye_%1_%2").arg(row).arg(column))->accessibleName();
     }
-    QStringList column(int c) const;
+    QStringList column(int c) const { return GridColumn(grid(), c); }
     void chooseAccount(const QString &account);
     void typeCell(const QString &keys);
 
     std::unique_ptr<ScreenFixture> m_kit;
     QPointer<AccountTransactionsScreen> m_screen;
 };
-
-QStringList TestAccountTransactions::column(int c) const
-{
-    QStringList texts;
-    for (int row = 0; row < grid()->ListCount(); ++row)
-        texts << grid()->view()->model()->index(row, c).data().toString();
-    return texts;
-}
 
 void TestAccountTransactions::chooseAccount(const QString &account)
 {

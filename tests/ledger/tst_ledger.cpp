@@ -69,8 +69,8 @@ private slots:
         QCOMPARE(grid(m_ledger)->ListCount(), 0);
         QTRY_COMPARE(grid(m_ledger)->ListCount(), 3);
         QVERIFY(m_ledger->findChild<QRadioButton *>(QStringLiteral("Option1_0"))->isEnabled());
-        QCOMPARE(shownColumn(grid(m_ledger), LedgerScreen::Tarih), QStringList({ "01.01.2026", "31.12.2026", "" }));
-        QCOMPARE(shownColumn(grid(m_ledger), LedgerScreen::Brut), QStringList({ "300.00", "1,000.00", "" }));
+        QCOMPARE(GridColumn(grid(m_ledger), LedgerScreen::Tarih), QStringList({ "01.01.2026", "31.12.2026", "" }));
+        QCOMPARE(GridColumn(grid(m_ledger), LedgerScreen::Brut), QStringList({ "300.00", "1,000.00", "" }));
         QCOMPARE(grid(m_ledger)->CurSat(), 2);
         QCOMPARE(QStringList({ label(1), label(2), label(3), label(4) }),
             QStringList({ "1,300.00", "260.00", "13.00", "234.00" }));
@@ -228,7 +228,6 @@ private:
     {
         return m_ledger->findChild<QLabel *>(QStringLiteral("Label1_%1").arg(index))->accessibleName();
     }
-    QStringList shownColumn(DcList *list, int column) const;
     void typeCell(const QString &keys);
 
     std::unique_ptr<ScreenFixture> m_kit;
@@ -242,14 +241,6 @@ LedgerScreen *TestLedger::openLedger()
         return nullptr;
     const auto *side = m_ledger->findChild<QRadioButton *>(QStringLiteral("Option1_1"));
     return QTest::qWaitFor([side] { return side->isEnabled(); }) ? m_ledger.data() : nullptr; // the opening pause
-}
-
-QStringList TestLedger::shownColumn(DcList *list, int column) const
-{
-    QStringList texts;
-    for (int row = 0; row < list->ListCount(); ++row)
-        texts << list->view()->model()->index(row, column).data().toString();
-    return texts;
 }
 
 void TestLedger::typeCell(const QString &keys)

@@ -277,22 +277,13 @@ private slots:
 
 private:
     XText *field(int index) const { return m_screen->findChild<XText *>(QStringLiteral("xtext1_%1").arg(index)); }
-    QStringList shownColumn(int column) const;
+    QStringList shownColumn(int column) const { return GridColumn(m_screen->listScreen()->list(), column); }
     QByteArray printRaw(const std::function<void(QWidget *)> &dialog = {});
 
     std::unique_ptr<PrivateSpooler> m_spooler;
     std::unique_ptr<ScreenFixture> m_kit;
     QPointer<OfficialLedgerScreen> m_screen;
 };
-
-QStringList TestOfficialLedger::shownColumn(int column) const
-{
-    const DcList *list = m_screen->listScreen()->list();
-    QStringList texts;
-    for (int row = 0; row < list->ListCount(); ++row)
-        texts << list->view()->model()->index(row, column).data().toString();
-    return texts;
-}
 
 // Prints the income book on the dot-matrix queue and answers what the printer received.
 QByteArray TestOfficialLedger::printRaw(const std::function<void(QWidget *)> &dialog)

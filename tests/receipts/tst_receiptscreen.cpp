@@ -537,12 +537,7 @@ private slots:
         answer.start(50);
         QTest::keyClick(list->view(), Qt::Key_F2);
         answer.stop();
-        const auto statuses = [list] {
-            QStringList texts;
-            for (int row = 0; row < list->ListCount(); ++row)
-                texts << list->view()->model()->index(row, 8).data().toString();
-            return texts;
-        };
+        const auto statuses = [list] { return GridColumn(list, 8); };
         QCOMPARE(statuses(), QStringList({ "Yeni", "Uyuşmuyor: ödenecek tutar 999.00, hesaplanan 1,000.00" }));
         QCOMPARE(screen->findChild<QLabel *>()->accessibleName(), QStringLiteral("1 Yeni, 1 Uyuşmuyor"));
         QApplication::setActiveWindow(&m_kit->window()); // back from the dialog

@@ -73,6 +73,26 @@ void TypeGridRow(DcList *list, const QStringList &cells)
     }
 }
 
+QStringList GridColumn(const DcList *list, int column)
+{
+    QStringList texts;
+    for (int row = 0; row < list->ListCount(); ++row)
+        texts << list->view()->model()->index(row, column).data().toString();
+    return texts;
+}
+
+QStringList GridRows(const DcList *list)
+{
+    QStringList rows;
+    for (int row = 0; row < list->ListCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < list->view()->model()->columnCount(); ++column)
+            cells << list->view()->model()->index(row, column).data().toString();
+        rows << cells.join(u'|');
+    }
+    return rows;
+}
+
 QStringList CutFigures(DcList *list)
 {
     QTableView *view = list->view();

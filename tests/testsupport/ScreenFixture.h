@@ -50,6 +50,10 @@ void TypeIntoField(XText *field, const QString &keys);
 // Types a grid row as a person does: Enter on the list opens the editor, then every cell's keys
 // each followed by Enter.
 void TypeGridRow(DcList *list, const QStringList &cells);
+// The texts a grid shows in one column, top to bottom.
+QStringList GridColumn(const DcList *list, int column);
+// The rows a grid shows, each as its cells' texts joined by "|".
+QStringList GridRows(const DcList *list);
 // The cells of a grid that show a figure (an amount, a number, a balance with its side) and that
 // their columns cut once the grid is painted: "row,column: text" each; empty when none is cut.
 QStringList CutFigures(DcList *list);
