@@ -7,6 +7,7 @@
 #include "testsupport/Books.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
+#include "testsupport/ScreenSuite.h"
 #include "testsupport/Typing.h"
 
 #include <QLabel>
@@ -16,31 +17,29 @@
 
 using namespace Qt::StringLiterals;
 
-class TestAccountCards : public QObject
+class TestAccountCards : public ScreenSuite<AccountCardsScreen>
 {
     Q_OBJECT
-private slots:
-    void init()
+public:
+    TestAccountCards()
+        : ScreenSuite("mnucarkart", "Form3")
     {
-        m_kit = std::make_unique<ScreenFixture>();
-        QVERIFY(m_kit->isReady());
-        amountConventions().tlonda = 2;
+    }
+
+protected:
+    void prepare() override
+    {
         QVERIFY(AddCard(QStringLiteral("B1"), QStringLiteral("Birinci")));
         QVERIFY(AddCard(QStringLiteral("C1"), QStringLiteral("Çağlar")));
         QVERIFY(AddCard(QStringLiteral("A1"), QStringLiteral("Ahmet")));
-        m_screen = m_kit->open<AccountCardsScreen>("mnucarkart", "Form3");
-        QVERIFY(m_screen);
     }
 
-    void cleanup() { m_kit.reset(); }
-
+private slots:
     void opensFromTheMenu()
     {
-        QCOMPARE(m_screen->windowTitle(), QStringLiteral("Cari Kartlar"));
         QVERIFY(field(0)->textBox()->hasFocus());
         QVERIFY(field(0)->Button());
         QCOMPARE(field(6)->Onda(), 2);
-        QCOMPARE(field(2)->accessibleName(), QStringLiteral("Adres"));
         QCOMPARE(
             m_screen->findChild<QToolButton *>(QStringLiteral("Command1_4"))->toolTip(), QStringLiteral("Kaydet (F5)"));
     }
@@ -220,8 +219,6 @@ private:
     void typeInto(int index, const QString &keys) { TypeIntoField(field(index), keys); }
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    std::unique_ptr<ScreenFixture> m_kit;
-    QPointer<AccountCardsScreen> m_screen;
 };
 
 void TestAccountCards::key(int key, Qt::KeyboardModifiers modifiers)

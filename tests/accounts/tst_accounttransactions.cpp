@@ -7,6 +7,7 @@
 #include "testsupport/Books.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
+#include "testsupport/ScreenSuite.h"
 #include "testsupport/Typing.h"
 
 #include <QLabel>
@@ -16,26 +17,25 @@
 
 using namespace Qt::StringLiterals;
 
-class TestAccountTransactions : public QObject
+class TestAccountTransactions : public ScreenSuite<AccountTransactionsScreen>
 {
     Q_OBJECT
-private slots:
-    void init()
+public:
+    TestAccountTransactions()
+        : ScreenSuite("mnucarhar", "Form4")
     {
-        m_kit = std::make_unique<ScreenFixture>();
-        QVERIFY(m_kit->isReady());
-        amountConventions().tlonda = 2;
-        QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk")));
-        QVERIFY(AddCard(QStringLiteral("K2"), QStringLiteral("Deniz Ltd.")));
-        m_screen = m_kit->open<AccountTransactionsScreen>("mnucarhar", "Form4");
-        QVERIFY(m_screen);
     }
 
-    void cleanup() { m_kit.reset(); }
+protected:
+    void prepare() override
+    {
+        QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk")));
+        QVERIFY(AddCard(QStringLiteral("K2"), QStringLiteral("Deniz Ltd.")));
+    }
 
+private slots:
     void opensFromTheMenu()
     {
-        QCOMPARE(m_screen->windowTitle(), QStringLiteral("Cari Hareketler"));
         QVERIFY(code()->textBox()->hasFocus());
         QVERIFY(code()->Button());
         QVERIFY(!grid()->Editable());
@@ -312,8 +312,6 @@ private:
     void chooseAccount(const QString &account);
     void typeCell(const QString &keys);
 
-    std::unique_ptr<ScreenFixture> m_kit;
-    QPointer<AccountTransactionsScreen> m_screen;
 };
 
 void TestAccountTransactions::chooseAccount(const QString &account)

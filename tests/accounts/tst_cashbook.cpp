@@ -15,6 +15,7 @@
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
+#include "testsupport/ScreenSuite.h"
 #include "testsupport/Typing.h"
 
 #include <QLabel>
@@ -37,35 +38,27 @@ void post(const QString &code, int islem, int ba, qint64 units, QDate date = tod
 
 } // namespace
 
-class TestCashBook : public QObject
+class TestCashBook : public ScreenSuite<CashBookScreen>
 {
     Q_OBJECT
-private slots:
-    void initTestCase()
+public:
+    TestCashBook()
+        : ScreenSuite("mnukasa", "Form7", QStringLiteral("kasa"))
     {
-        m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("kasa"));
-        QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
     }
 
-    void init()
+protected:
+    void prepare() override
     {
-        m_kit = std::make_unique<ScreenFixture>(today);
-        QVERIFY(m_kit->isReady());
-        amountConventions().tlonda = 2;
         QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk")));
         QVERIFY(AddCard(QStringLiteral("K2"), QStringLiteral("Deniz Ltd.")));
-        m_screen = m_kit->open<CashBookScreen>("mnukasa", "Form7");
-        QVERIFY(m_screen);
     }
 
-    void cleanup() { m_kit.reset(); }
-
+private slots:
     void opensOnToday()
     {
-        QCOMPARE(m_screen->windowTitle(), QStringLiteral("Kasa Defteri"));
         QCOMPARE(date()->Text(), QStringLiteral("16.11.2026"));
         QVERIFY(date()->textBox()->hasFocus());
-        QCOMPARE(date()->accessibleName(), QStringLiteral("İşlem Tarihi"));
         QStringList captions;
         for (int c = 0; c < 6; ++c)
             captions << grid()->Baslik(c);
@@ -325,9 +318,6 @@ private:
     QStringList stored() const;
     void seedDay();
 
-    std::unique_ptr<PrivateSpooler> m_spooler;
-    std::unique_ptr<ScreenFixture> m_kit;
-    QPointer<CashBookScreen> m_screen;
 };
 
 QStringList TestCashBook::positions() const

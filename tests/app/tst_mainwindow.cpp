@@ -10,6 +10,7 @@
 #include <QAccessible>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QtTest>
@@ -115,6 +116,47 @@ private slots:
         for (ValueLabel *label : labels)
             QVERIFY2(label->contentsRect().width() >= label->fontMetrics().horizontalAdvance(widest),
                 qPrintable(label->accessibleDescription()));
+    }
+
+    void everyScreenIsTitledLabelledAndClosedByEsc_data()
+    {
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("mnucarkart") << u"mnucarkart"_s << u"Form3"_s << u"Cari Kartlar"_s;
+        QTest::newRow("mnucarhar") << u"mnucarhar"_s << u"Form4"_s << u"Cari Hareketler"_s;
+        QTest::newRow("mnucareks") << u"mnucareks"_s << u"Form16"_s << u"Cari Hareket Dökümü"_s;
+        QTest::newRow("mnugbor") << u"mnugbor"_s << u"Form10"_s << u"Genel Borç Alacak Listesi"_s;
+        QTest::newRow("mnukasa") << u"mnukasa"_s << u"Form7"_s << u"Kasa Defteri"_s;
+        QTest::newRow("mnumkb") << u"mnumkb"_s << u"Form1"_s << u"Serbest Meslek Makbuzu"_s;
+        QTest::newRow("mnuemanet") << u"mnuemanet"_s << u"Form6"_s << u"Emanet Alındı Makbuzu"_s;
+        QTest::newRow("mnuesmm") << u"mnuesmm"_s << u"FormEsmm"_s << u"e-SMM Aktar"_s;
+        QTest::newRow("mnusdef") << u"mnusdef"_s << u"Form8"_s << u"Serbest Meslek Defteri (Gelir)"_s;
+        QTest::newRow("mnukdv") << u"mnukdv"_s << u"Form9"_s << u"Kdv, Stopaj Raporu"_s;
+        QTest::newRow("mnuresmi") << u"mnuresmi"_s << u"Form12"_s << u"Serbest Meslek Defteri"_s;
+        QTest::newRow("mnustoplst") << u"mnustoplst"_s << u"Form15"_s << u"Stopaj Listesi"_s;
+        QTest::newRow("mnuayarlar") << u"mnuayarlar"_s << u"Form2"_s << u"Ayarlar"_s;
+    }
+
+    // What every screen shares: its title, every labelled control named by its label, and Esc
+    // from the control that has the focus closes it.
+    void everyScreenIsTitledLabelledAndClosedByEsc()
+    {
+        QFETCH(QString, item);
+        QFETCH(QString, form);
+        QFETCH(QString, title);
+        ScreenFixture kit;
+        QVERIFY(kit.isReady());
+        kit.window().show();
+        QPointer<QWidget> screen = kit.open<QWidget>(qPrintable(item), qPrintable(form));
+        QVERIFY(screen);
+        QTRY_COMPARE(screen->windowTitle(), title);
+        for (const QLabel *label : screen->findChildren<QLabel *>())
+            if (label->buddy() && !label->text().isEmpty()) // an empty label's field has a name of its own
+                QCOMPARE(label->buddy()->accessibleName(), QString(label->text()).remove(u'&'));
+        QTRY_VERIFY(screen->focusWidget());
+        QTest::keyClick(screen->focusWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(screen.isNull());
     }
 
     void screenOutlivesItsPrinterDialog_data()

