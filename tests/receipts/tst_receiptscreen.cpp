@@ -13,6 +13,7 @@
 #include "receipts/ReceiptScreen.h"
 #include "testsupport/Books.h"
 #include "testsupport/EsmmSamples.h"
+#include "testsupport/Golden.h"
 #include "testsupport/KeyBurst.h"
 #include "testsupport/PdfText.h"
 #include "testsupport/PrivateSpooler.h"
@@ -46,20 +47,6 @@ void addLayoutRow(int no, float uzun, float sol, float ust, const QString &txt =
     FieldWrite(duzen, QStringLiteral("ust"), ust);
     FieldWrite(duzen, QStringLiteral("txt"), txt);
     RsUpdate(duzen);
-}
-
-// The bytes of a receipt page of 33 blank lines with texts put at (line, column).
-QByteArray receiptBytes(const std::vector<std::tuple<int, int, QString>> &texts)
-{
-    QStringList page;
-    for (int i = 0; i < 33; ++i)
-        page << QString(80, u' ');
-    for (const auto &[line, column, text] : texts)
-        page[line - 1].replace(column - 1, text.size(), text);
-    QByteArray bytes;
-    for (const QString &line : std::as_const(page))
-        bytes += RawField(line, false, false, false) + "\r\n";
-    return bytes;
 }
 
 } // namespace
@@ -144,17 +131,9 @@ private slots:
         QCOMPARE(total->accessibleDescription(), QStringLiteral("TOPLAM"));
         typeInto(8, QStringLiteral("Danışmanlık"));
 
-        const QByteArray before = m_spooler->received();
         AnswerPrinterSetup("Command4", this);
-        QTest::keyClick(field(8)->textBox(), Qt::Key_F5);
-
-        const QByteArray expected = receiptBytes({ { 1, 70, "500     " }, { 2, 5, "Müşteri A.Ş." },
-            { 2, 70, "16.11.2026" }, { 3, 5, "Kızılay" }, { 4, 5, "Ankara" }, { 5, 5, "Çankaya" },
-            { 5, 25, "1234567890" }, { 6, 40, "Çankaya - 1234567890" }, { 8, 5, "Danışmanlık" }, { 8, 60, "1,000.00" },
-            { 9, 50, " 20" }, { 9, 60, "      200.00" }, { 10, 50, " 10" }, { 10, 60, "       20.00" },
-            { 11, 60, "      780.00" }, { 12, 50, " 18" }, { 12, 60, "      180.00" }, { 14, 60, "60.00" },
-            { 16, 5, "Yalnızdokuzyüzaltmış TL" }, { 20, 75, "Teşekk" } });
-        QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()), expected, 20000);
+        const QByteArray printed = m_spooler->receive([this] { QTest::keyClick(field(8)->textBox(), Qt::Key_F5); });
+        COMPARE_GOLDEN(RawPrintout(printed), "receipts/pages/receipt.txt");
         QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("S.M. Makbuzu")));
 
         QCOMPARE(QueryTexts(QStringLiteral(
@@ -290,15 +269,9 @@ private slots:
         QCOMPARE(field(15)->Text(), withheld);
         QCOMPARE(totalText(), total);
 
-        const QByteArray before = m_spooler->received();
         AnswerPrinterSetup("Command4", this);
-        QTest::keyClick(field(15)->textBox(), Qt::Key_F5);
-        const QString vat = kdvRate == 20.f ? QStringLiteral("200.00") : QStringLiteral("180.00");
-        const QString share = tenths.isEmpty() ? QString() : tenths + QStringLiteral("/10");
-        const QByteArray expected
-            = receiptBytes({ { 1, 1, vat.rightJustified(12) }, { 2, 1, withheld.rightJustified(12) },
-                { 2, 20, share.rightJustified(5) }, { 3, 1, total.rightJustified(12) }, { 4, 1, words } });
-        QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()), expected, 20000);
+        const QByteArray printed = m_spooler->receive([this] { QTest::keyClick(field(15)->textBox(), Qt::Key_F5); });
+        COMPARE_GOLDEN(RawPrintout(printed), RowGoldenFile(u"receipts/pages/vat-withheld"_s));
 
         const qint64 owed = (Currency::fromString(QString(total).remove(u',')).raw());
         QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || '' AS r FROM carhar"), QStringLiteral("r")),
@@ -443,41 +416,10 @@ private slots:
         QVERIFY(openDeposit());
         fillDeposit();
         printSettings().dotMatrix = true;
-        const QByteArray before = m_spooler->received();
         AnswerPrinterSetup("Command4", this);
-        QTest::keyClick(depositField(9)->textBox(), Qt::Key_F8);
-
-        const auto plain = [](const QString &text) { return RawField(text, false, false, false); };
-        const auto bold = [](const QString &text) { return RawField(text, true, false, false); };
-        const auto left = [](const QString &text, int width) { return (text + QString(width, u' ')).left(width); };
-        const auto right = [](const QString &text, int width) { return (QString(width, u' ') + text).right(width); };
-        const QByteArray end = "\r\n";
-        const QByteArray rule = plain(QString(4, u' ')) + plain(QString(40, u'_')) + plain(QStringLiteral(" "))
-            + plain(QString(15, u'_')) + end;
-        QByteArray expected = plain(QStringLiteral(" ")) + end + plain(QStringLiteral(" ")) + end;
-        const QString title = QStringLiteral("EMANET ALINDI MAKBUZU");
-        const int pad = int(80 - title.size()) / 2;
-        expected += bold(QString(pad, u' ') + title + QString(pad, u' ')) + end;
-        expected += plain(QStringLiteral(" ")) + end;
-        const QStringList labels
-            = { "Tarih :", "Makbuz No :", "Müşteri No :", "Ünvan :", "Adres :", "       ", "Vergi No :" };
-        const QStringList values
-            = { "16.11.2026", "120", "K1", "Müşteri A.Ş.", "Kızılay", "Ankara", "Çankaya - 1234567890" };
-        const int widths[] = { 15, 15, 15, 50, 50, 50, 50 };
-        for (int i = 0; i < labels.size(); ++i)
-            expected += plain(right(labels[i], 15)) + plain(left(values[i], widths[i])) + end;
-        expected += plain(QStringLiteral(" ")) + end;
-        expected += rule;
-        expected += plain(QString(4, u' ')) + bold(left(QStringLiteral("AÇIKLAMA"), 40)) + plain(QStringLiteral(" "))
-            + bold(left(QStringLiteral("TUTAR"), 15)) + end;
-        expected += rule;
-        expected += plain(QString(4, u' ')) + plain(left(QStringLiteral("Dava masrafı"), 40))
-            + plain(QStringLiteral(" ")) + plain(right(QStringLiteral("2,500.00"), 15)) + end;
-        expected += rule;
-        expected += plain(left(QStringLiteral("Yukarıda Tutarı Yazılı Bedel EMANETTEN Alınmıştır.."), 80)) + end;
-        for (int line = 19; line <= 33; ++line)
-            expected += plain(QStringLiteral(" ")) + end;
-        QTRY_COMPARE_WITH_TIMEOUT(m_spooler->received().mid(before.size()), expected, 20000);
+        const QByteArray printed
+            = m_spooler->receive([this] { QTest::keyClick(depositField(9)->textBox(), Qt::Key_F8); });
+        COMPARE_GOLDEN(RawPrintout(printed), "receipts/pages/deposit.txt");
         QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("EMANET ALINDI MAKBUZU")));
     }
 
@@ -593,7 +535,6 @@ private:
     }
     void fillDeposit();
     QPointer<QWidget> m_screenOfDeposit;
-
 };
 
 void TestReceiptScreen::typeIn(QWidget *screen, int index, const QString &keys)

@@ -2,16 +2,18 @@
 
 #include <QFile>
 #include <QHash>
+#include <QRegularExpression>
 #include <QStringList>
+#include <QTest>
 
 namespace {
 
 // Code page 857's Turkish letters; the printer gets every other letter of a printout as ASCII.
 QChar cp857Letter(unsigned char byte)
 {
-    static const QHash<unsigned char, QChar> letters = { { 128, u'Ç' }, { 166, u'Ğ' }, { 153, u'Ö' },
-        { 154, u'Ü' }, { 152, u'İ' }, { 158, u'Ş' }, { 135, u'ç' }, { 167, u'ğ' }, { 148, u'ö' }, { 129, u'ü' },
-        { 141, u'ı' }, { 159, u'ş' } };
+    static const QHash<unsigned char, QChar> letters
+        = { { 128, u'Ç' }, { 166, u'Ğ' }, { 153, u'Ö' }, { 154, u'Ü' }, { 152, u'İ' }, { 158, u'Ş' }, { 135, u'ç' },
+              { 167, u'ğ' }, { 148, u'ö' }, { 129, u'ü' }, { 141, u'ı' }, { 159, u'ş' } };
     return letters.value(byte);
 }
 
@@ -64,6 +66,13 @@ QString RawPrintout(const QByteArray &bytes)
             text += rawLine(pieces[i]) + QStringLiteral("<lf>");
     }
     return text + rawLine(pieces.last()); // what follows the last line's end
+}
+
+QString RowGoldenFile(const QString &folder)
+{
+    static const QRegularExpression others(QStringLiteral("[^a-z0-9]+"));
+    const QString row = QString::fromUtf8(QTest::currentDataTag()).toLower().replace(others, QStringLiteral("-"));
+    return folder + u'/' + row + QStringLiteral(".txt");
 }
 
 QString GoldenDifference(const QString &text, const QString &file)

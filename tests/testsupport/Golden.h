@@ -17,8 +17,12 @@ QString RawPrintout(const QByteArray &bytes);
 // with text instead: read its difference before you commit it.
 QString GoldenDifference(const QString &text, const QString &file);
 
-#define COMPARE_GOLDEN(text, file)                                                                 \
-    do {                                                                                           \
-        const QString goldenDifference = GoldenDifference(text, file);                             \
-        QVERIFY2(goldenDifference.isEmpty(), qPrintable(goldenDifference));                        \
+// The golden file of the running test's data row in folder (a path under tests/): the row's name
+// in lower case, each run of other characters than letters and digits a "-".
+QString RowGoldenFile(const QString &folder);
+
+#define COMPARE_GOLDEN(text, file)                                                                                     \
+    do {                                                                                                               \
+        const QString goldenDifference = GoldenDifference(text, file);                                                 \
+        QVERIFY2(goldenDifference.isEmpty(), qPrintable(goldenDifference));                                            \
     } while (false)
