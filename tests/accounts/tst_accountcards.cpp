@@ -201,8 +201,7 @@ private slots:
         QVERIFY(!m_kit->messages().entries().isEmpty());
         QCOMPARE(m_kit->messages().texts().last(), message);
         QCOMPARE(m_kit->messages().entries().last().kind, Message::Kind::Exclamation);
-        QCOMPARE(
-            QueryTexts(QStringLiteral("SELECT kod || '|' || unv AS r FROM carkart ORDER BY kod"), QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"kod, unv FROM carkart ORDER BY kod"_s),
             QStringList({ "A1|Ahmet", "B1|Birinci", "C1|Çağlar" }));
         QCOMPARE(
             QueryTexts(QStringLiteral("SELECT count(*) AS n FROM carhar"), QStringLiteral("n")), QStringList { "1" });
@@ -218,7 +217,6 @@ private:
     }
     void typeInto(int index, const QString &keys) { TypeIntoField(field(index), keys); }
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-
 };
 
 void TestAccountCards::key(int key, Qt::KeyboardModifiers modifiers)

@@ -111,10 +111,8 @@ QStringList TestEsmmCommand::counts()
     if (!OpenDataFiles())
         return {};
     const QStringList found
-        = QueryTexts(
-              QStringLiteral("SELECT (SELECT count(*) FROM carhar) || '|' || (SELECT count(*) FROM defter) || '|' || "
-                             "(SELECT count(*) FROM makbuz) AS n"),
-              QStringLiteral("n"))
+        = StoredRows(QStringLiteral(
+              "(SELECT count(*) FROM carhar), (SELECT count(*) FROM defter), (SELECT count(*) FROM makbuz)"))
         + dataFiles().db->texts(QStringLiteral("PRAGMA integrity_check"));
     CloseDataFiles();
     return found;

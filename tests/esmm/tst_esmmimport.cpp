@@ -30,13 +30,10 @@ SampleEsmm workedExample()
 
 QStringList postings()
 {
-    return QueryTexts(
-        QStringLiteral("SELECT h.kod || '|' || h.tarih || '|' || h.islem || '|' || h.ba || '|' || "
-                       "h.tutar || '|' || h.evrak || '|' || h.ack || '|' || d.cari || '|' || d.ack || "
-                       "'|' || d.brut || '|' || d.stopaj || '|' || d.fon || '|' || d.kdv || '|' || "
-                       "m.tevkifat || '|' || m.tevkoran || '|' || m.makbuzno AS r FROM makbuz m "
-                       "JOIN carhar h ON h.oto = m.carhar JOIN defter d ON d.oto = m.defter ORDER BY m.defter"),
-        QStringLiteral("r"));
+    return StoredRows(
+        QStringLiteral("h.kod, h.tarih, h.islem, h.ba, h.tutar, h.evrak, h.ack, d.cari, d.ack, d.brut, "
+                       "d.stopaj, d.fon, d.kdv, m.tevkifat, m.tevkoran, m.makbuzno FROM makbuz m JOIN "
+                       "carhar h ON h.oto = m.carhar JOIN defter d ON d.oto = m.defter ORDER BY m.defter"));
 }
 
 int rowsIn(const char *table)
@@ -86,9 +83,7 @@ private slots:
         QCOMPARE(run.rows().size(), size_t(1));
         QCOMPARE(run.rows().front().statusText(), QStringLiteral("Aktarıldı (yeni cari E0000001)"));
         QCOMPARE(postings(), QStringList { posted });
-        QCOMPARE(QueryTexts(QStringLiteral(
-                                "SELECT kod || '|' || unv || '|' || vd || '|' || vn || '|' || tip AS r FROM carkart"),
-                     QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"kod, unv, vd, vn, tip FROM carkart"_s),
             QStringList { "E0000001|Alıcı Danışmanlık A.Ş.|Çankaya|2222222222|0" });
     }
 

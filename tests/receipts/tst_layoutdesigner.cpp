@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 class TestLayoutDesigner : public QObject
 {
     Q_OBJECT
@@ -36,9 +38,7 @@ private slots:
         addRow(19, QStringLiteral("10"), QStringLiteral("75"), QStringLiteral("0"), QStringLiteral("Teşekkürler"));
         addRow(21, QStringLiteral("4"), QStringLiteral("60"), QStringLiteral("9"), QString());
         QCOMPARE(entries(), QStringList({ "0001 - Ünvan - isim", "0002 - Teşekkürler", "0003 - Tevkifat Oran - " }));
-        QCOMPARE(QueryTexts(QStringLiteral(
-                                "SELECT sira || '|' || no || '|' || uzun || '|' || sol || '|' || ust AS r FROM duzen"),
-                     QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"sira, no, uzun, sol, ust FROM duzen"_s),
             QStringList({ "1|0|30.0|5.0|2.0", "2|19|10.0|75.0|0.0", "3|21|4.0|60.0|9.0" }));
         QCOMPARE(field(0)->Value().toInt(), 0);
         const std::vector<LayoutRow> rows = ReadLayout();
@@ -60,8 +60,7 @@ private slots:
         QCoreApplication::processEvents();
         typeKeys(field(3)->textBox(), QStringLiteral("9"));
         m_screen->findChild<QPushButton *>(QStringLiteral("ekle"))->click(); // changes row 1
-        QCOMPARE(QueryTexts(QStringLiteral("SELECT sira || '|' || ust AS r FROM duzen"), QStringLiteral("r")),
-            QStringList { "1|9.0" });
+        QCOMPARE(StoredRows(u"sira, ust FROM duzen"_s), QStringList { "1|9.0" });
     }
 
     void arrowKeysLoadTheHighlightedRow()

@@ -136,15 +136,9 @@ private slots:
         COMPARE_GOLDEN(RawPrintout(printed), "receipts/pages/receipt.txt");
         QVERIFY(m_spooler->jobTitles().contains(QStringLiteral("S.M. Makbuzu")));
 
-        QCOMPARE(QueryTexts(QStringLiteral(
-                                "SELECT kod || '|' || tarih || '|' || evrak || '|' || ack || '|' || islem || '|' || "
-                                "ba || '|' || tutar AS r FROM carhar"),
-                     QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"kod, tarih, evrak, ack, islem, ba, tutar FROM carhar"_s),
             QStringList { QStringLiteral("K1|46342|500|Danışmanlık|2|0|9600000") });
-        QCOMPARE(QueryTexts(QStringLiteral(
-                                "SELECT sira || '|' || tarih || '|' || islem || '|' || evrak || '|' || cari || '|' || "
-                                "ack || '|' || brut || '|' || stopaj || '|' || fon || '|' || kdv AS r FROM defter"),
-                     QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"sira, tarih, islem, evrak, cari, ack, brut, stopaj, fon, kdv FROM defter"_s),
             QStringList { QStringLiteral("0|46342|0|500|K1|Müşteri A.Ş.|10000000|2000000|200000|1800000") });
         QCOMPARE(GenelCurrenGet(QStringLiteral("serino")), Currency::fromUnits(500));
         QCOMPARE(GenelTxtGet(QStringLiteral("lastack")), QStringLiteral("Danışmanlık"));
@@ -276,13 +270,10 @@ private slots:
         const qint64 owed = (Currency::fromString(QString(total).remove(u',')).raw());
         QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || '' AS r FROM carhar"), QStringLiteral("r")),
             QStringList { QString::number(owed) });
-        QCOMPARE(QueryTexts(QStringLiteral("SELECT brut || '|' || stopaj || '|' || kdv AS r FROM defter"),
-                     QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"brut, stopaj, kdv FROM defter"_s),
             QStringList { QStringLiteral("10000000|2000000|") + QString::number(qint64(kdvRate) * 100000) });
-        QCOMPARE(QueryTexts(QStringLiteral(
-                                "SELECT tevkoran || '|' || tevkifat AS r FROM makbuz "
-                                "JOIN defter ON defter.oto = makbuz.defter JOIN carhar ON carhar.oto = makbuz.carhar"),
-                     QStringLiteral("r")),
+        QCOMPARE(StoredRows(QStringLiteral("tevkoran, tevkifat FROM makbuz JOIN defter ON defter.oto = makbuz.defter "
+                                           "JOIN carhar ON carhar.oto = makbuz.carhar")),
             kept.isEmpty() ? QStringList() : QStringList { kept });
         QCOMPARE(field(14)->Text(), QString()); // the next receipt starts without withholding
         QVERIFY(m_kit->messages().entries().isEmpty());
@@ -299,9 +290,8 @@ private slots:
         QCOMPARE(field(9)->Text(), QStringLiteral("1,114.29"));
         AnswerPrinterSetup("Command5", this);
         QTest::keyClick(field(12)->textBox(), Qt::Key_F5);
-        QCOMPARE(QueryTexts(QStringLiteral("SELECT brut || '|' || stopaj || '|' || fon || '|' || kdv AS r FROM defter"),
-                     QStringLiteral("r")),
-            QStringList { "11142900|2228600|222900|2005700" });
+        QCOMPARE(
+            StoredRows(u"brut, stopaj, fon, kdv FROM defter"_s), QStringList { "11142900|2228600|222900|2005700" });
     }
 
     // The gross field takes no more than a Currency holds; a gross whose VAT makes the total too large
@@ -375,10 +365,7 @@ private slots:
         fillDeposit();
         QCOMPARE(depositField(3)->Text(), QStringLiteral("Müşteri A.Ş."));
         QTest::keyClick(depositField(9)->textBox(), Qt::Key_F5);
-        QCOMPARE(QueryTexts(QStringLiteral(
-                                "SELECT kod || '|' || tarih || '|' || evrak || '|' || ack || '|' || islem || '|' || "
-                                "ba || '|' || tutar AS r FROM carhar"),
-                     QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"kod, tarih, evrak, ack, islem, ba, tutar FROM carhar"_s),
             QStringList { QStringLiteral("K1|46342|120|Dava masrafı|3|1|25000000") });
         QCOMPARE(
             QueryTexts(QStringLiteral("SELECT count(*) AS n FROM defter"), QStringLiteral("n")), QStringList { "0" });
