@@ -76,11 +76,13 @@ AccountTransactionsScreen::AccountTransactionsScreen(QWidget *parent)
     connect(list(), &DcList::AlanChanged, this, &AccountTransactionsScreen::columnReached);
     connect(list(), &DcList::OnKosulVar, this, &AccountTransactionsScreen::checkValue);
     connect(list(), &DcList::KeyDown, this, &AccountTransactionsScreen::listKey);
-    // A row put in between (Insert) moves the rows below it: their sums follow.
-    connect(list()->view()->model(), &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &, int first) {
-        if (!m_listing)
-            recompute(first);
-    });
+    // A row put in between (Insert) moves the rows below it: their sums follow. A row appended
+    // at the end (the entry row after a stored one) has no balance until the next recompute.
+    connect(list()->view()->model(), &QAbstractItemModel::rowsInserted, this,
+        [this](const QModelIndex &, int first, int last) {
+            if (!m_listing && last + 1 < list()->ListCount())
+                recompute(first);
+        });
     connect(list(), &DcList::ChangeEditMode, m_typePanel, [this](bool editing) {
         if (!editing)
             m_typePanel->hide();

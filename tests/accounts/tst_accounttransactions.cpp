@@ -85,7 +85,7 @@ private slots:
                 QStringLiteral("r")),
             QStringList { "K1:46331:M12:Danışma:3:0:2500000:1" });
         QCOMPARE(grid()->Caption(0, AccountTransactionsScreen::Oto), QStringLiteral("1"));
-        QCOMPARE(grid()->ListCount(), 2); // a new empty row after the stored one
+        QCOMPARE(column(AccountTransactionsScreen::Bakiye), QStringList({ "250.00", "" })); // the new entry row: none yet
         QCOMPARE(grid()->CurSat(), 1);
         QCOMPARE(panel(1, 0), QStringLiteral("250.00"));
         QCOMPARE(panel(2, 2), QStringLiteral("250.00"));
