@@ -79,13 +79,11 @@ private slots:
         chooseAccount(QStringLiteral("K1"));
         m_screen->findChild<XText *>(QStringLiteral("xtext1"))->setText(QString()); // blanked: the list is still K1's
         TypeGridRow(grid(), { "05", "M12", "Danışma", "3", "+", "250" });
-        QCOMPARE(
-            QueryTexts(QStringLiteral("SELECT kod || ':' || tarih || ':' || evrak || ':' || ack || ':' || islem || ':' "
-                                      "|| ba || ':' || tutar || ':' || oto AS r FROM carhar"),
-                QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"kod, tarih, evrak, ack, islem, ba, tutar, oto FROM carhar"_s, u':'),
             QStringList { "K1:46331:M12:Danışma:3:0:2500000:1" });
         QCOMPARE(grid()->Caption(0, AccountTransactionsScreen::Oto), QStringLiteral("1"));
-        QCOMPARE(column(AccountTransactionsScreen::Bakiye), QStringList({ "250.00", "" })); // the new entry row: none yet
+        QCOMPARE(
+            column(AccountTransactionsScreen::Bakiye), QStringList({ "250.00", "" })); // the new entry row: none yet
         QCOMPARE(grid()->CurSat(), 1);
         QCOMPARE(panel(1, 0), QStringLiteral("250.00"));
         QCOMPARE(panel(2, 2), QStringLiteral("250.00"));
@@ -96,8 +94,7 @@ private slots:
             QTest::keyClick(grid()->editor(), Qt::Key_Return);
         grid()->editor()->clear();
         typeCell(QStringLiteral("300"));
-        QCOMPARE(QueryTexts(QStringLiteral("SELECT tutar || ':' || oto AS r FROM carhar"), QStringLiteral("r")),
-            QStringList { "3000000:1" }); // the same row, changed
+        QCOMPARE(StoredRows(u"tutar, oto FROM carhar"_s, u':'), QStringList { "3000000:1" }); // the same row, changed
         QCOMPARE(grid()->Caption(0, AccountTransactionsScreen::Bakiye), QStringLiteral("300"));
         QCOMPARE(m_kit->messages().entries().size(), 0);
     }
@@ -194,8 +191,7 @@ private slots:
         typeCell(QStringLiteral("10"));
         QCOMPARE(grid()->Caption(0, AccountTransactionsScreen::Islem), shownType);
         QCOMPARE(grid()->Caption(0, AccountTransactionsScreen::Ba), shownSide);
-        QCOMPARE(QueryTexts(QStringLiteral("SELECT islem || ':' || ba AS r FROM carhar"), QStringLiteral("r")),
-            QStringList { stored });
+        QCOMPARE(StoredRows(u"islem, ba FROM carhar"_s, u':'), QStringList { stored });
     }
 
     void typePanelFillsTheCell()
@@ -311,7 +307,6 @@ private:
     QStringList column(int c) const { return GridColumn(grid(), c); }
     void chooseAccount(const QString &account);
     void typeCell(const QString &keys);
-
 };
 
 void TestAccountTransactions::chooseAccount(const QString &account)

@@ -317,7 +317,6 @@ private:
     QStringList shownRow(int row) const;
     QStringList stored() const;
     void seedDay();
-
 };
 
 QStringList TestCashBook::positions() const
@@ -338,10 +337,7 @@ QStringList TestCashBook::shownRow(int row) const
 
 QStringList TestCashBook::stored() const
 {
-    return QueryTexts(
-        QStringLiteral("SELECT kod || ':' || tarih || ':' || islem || ':' || evrak || ':' || ack || ':' || "
-                       "ba || ':' || tutar AS r FROM carhar ORDER BY oto"),
-        QStringLiteral("r"));
+    return StoredRows(u"kod, tarih, islem, evrak, ack, ba, tutar FROM carhar ORDER BY oto"_s, u':');
 }
 
 // Carried: 500 in, 200 out, a receipt that is no cash; the day: 100 in, a 40 deposit out.

@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 AccountPosting cash(const QString &code, qint64 units, int ba = 1)
@@ -17,9 +19,7 @@ AccountPosting cash(const QString &code, qint64 units, int ba = 1)
 // Stored amounts are ten-thousandths.
 QStringList accountRows()
 {
-    return QueryTexts(QStringLiteral("SELECT oto || ':' || kod || ':' || islem || ':' || ba || ':' || tutar AS r "
-                                     "FROM carhar ORDER BY oto"),
-        QStringLiteral("r"));
+    return StoredRows(u"oto, kod, islem, ba, tutar FROM carhar ORDER BY oto"_s, u':');
 }
 
 } // namespace
@@ -84,10 +84,7 @@ private slots:
         QCOMPARE(oto, 1);
         row.kdv = Currency::fromUnits(200);
         QVERIFY(ChangeLedgerPosting(oto, row));
-        QCOMPARE(
-            QueryTexts(QStringLiteral("SELECT tarih || ':' || evrak || ':' || cari || ':' || ack || ':' || brut || ':' "
-                                      "|| stopaj || ':' || fon || ':' || kdv AS r FROM defter"),
-                QStringLiteral("r")),
+        QCOMPARE(StoredRows(u"tarih, evrak, cari, ack, brut, stopaj, fon, kdv FROM defter"_s, u':'),
             QStringList { "46091:500:K1:Danışma:10000000:2000000:100000:2000000" });
         QCOMPARE(StoreLedgerPosting(oto, row), oto);
         QVERIFY(DeletePosting(PostingBook::Ledger, oto));

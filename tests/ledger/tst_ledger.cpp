@@ -16,6 +16,8 @@
 #include <QTableView>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void book(int islem, QDate date, qint64 brut, qint64 stopaj, qint64 fon, qint64 kdv, const QString &cari = QString(),
@@ -26,10 +28,7 @@ void book(int islem, QDate date, qint64 brut, qint64 stopaj, qint64 fon, qint64 
 
 QStringList storedRows()
 {
-    return QueryTexts(
-        QStringLiteral("SELECT islem || ':' || tarih || ':' || evrak || ':' || cari || ':' || ack || ':' "
-                       "|| brut || ':' || stopaj || ':' || fon || ':' || kdv AS r FROM defter ORDER BY oto"),
-        QStringLiteral("r"));
+    return StoredRows(u"islem, tarih, evrak, cari, ack, brut, stopaj, fon, kdv FROM defter ORDER BY oto"_s, u':');
 }
 
 } // namespace

@@ -17,7 +17,7 @@ QStringList QueryTexts(const QString &sql, const QString &field, const QVariantL
     return texts;
 }
 
-QStringList StoredRows(const QString &select)
+QStringList StoredRows(const QString &select, QChar separator)
 {
     QStringList rows;
     sqlite3_stmt *statement = nullptr;
@@ -28,7 +28,7 @@ QStringList StoredRows(const QString &select)
         QStringList cells;
         for (int c = 0; c < sqlite3_column_count(statement); ++c)
             cells << QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(statement, c)));
-        rows << cells.join(u'|');
+        rows << cells.join(separator);
     }
     sqlite3_finalize(statement);
     return rows;
