@@ -1,11 +1,23 @@
 #include "esmm/EsmmDocument.h"
 
+#include <QUuid>
 #include <QXmlStreamReader>
 
 #include <cmath>
 #include <vector>
 
 namespace {
+
+// An ETTN as one text however it is written: a UUID in lower case without braces, blanks left out.
+QString ettnKey(const QString &text)
+{
+    QString bare;
+    for (const QChar c : text)
+        if (!c.isSpace())
+            bare += c;
+    const QUuid uuid = QUuid::fromString(bare);
+    return uuid.isNull() ? bare.toLower() : uuid.toString(QUuid::WithoutBraces);
+}
 
 const QString esmmNamespace = QStringLiteral("http://earsiv.efatura.gov.tr");
 
@@ -161,7 +173,7 @@ bool DocumentReader::leaf(QStringView name, const QString &text)
     if (name == u"makbuzNo")
         d.makbuzNo = text;
     else if (name == u"ETTN")
-        d.ettn = text.toLower();
+        d.ettn = ettnKey(text);
     else if (name == u"belgeTarihi")
         d.date = QDate::fromString(text.left(10), Qt::ISODate);
     else if (name == u"paraBirimi")

@@ -129,7 +129,9 @@ QString EsmmRow::statusText() const
 
 void EsmmImport::read(const QStringList &paths)
 {
-    Statement known(dataFiles().db->handle(), QStringLiteral("SELECT 1 FROM makbuz WHERE ettn = ?1"));
+    // Books of earlier versions kept an ETTN written with braces in its braces.
+    Statement known(
+        dataFiles().db->handle(), QStringLiteral("SELECT 1 FROM makbuz WHERE ettn = ?1 OR ettn = '{' || ?1 || '}'"));
     QSet<QString> seen;
     for (const EsmmRow &row : m_rows)
         if (row.status == EsmmStatus::New || row.status == EsmmStatus::Posted)

@@ -1,3 +1,4 @@
+#include "books/DataFiles.h"
 #include "books/Parameters.h"
 #include "esmm/EsmmImport.h"
 #include "testsupport/Books.h"
@@ -92,20 +93,21 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("holder"); // the tax number in "Ayarlar"
         QTest::addColumn<QString>("status");
-        SampleEsmm wrongTotal;
-        wrongTotal.payable = QStringLiteral("1100.00");
+        const auto payable = [](const QString &amount) {
+            SampleEsmm sample;
+            sample.payable = amount;
+            return EsmmXml(sample);
+        };
         SampleEsmm dollars;
         dollars.currency = QStringLiteral("USD");
         SampleEsmm otherTax;
         otherTax.otherTaxCode = QStringLiteral("0059");
-        QTest::newRow("does not add up") << EsmmXml(wrongTotal) << u""_s
+        QTest::newRow("does not add up") << payable(u"1100.00"_s) << u""_s
                                          << u"Uyuşmuyor: ödenecek tutar 1,100.00, hesaplanan 1,000.00"_s;
-        QTest::newRow("within a kuruş it adds up") << EsmmXml([] {
-            SampleEsmm s;
-            s.payable = QStringLiteral("1000.01");
-            return s;
-        }()) << ""
-                                                   << "Aktarıldı (yeni cari E0000001)";
+        QTest::newRow("within a kuruş it adds up")
+            << payable(u"1000.01"_s) << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
+        QTest::newRow("two kuruş off") << payable(u"999.98"_s) << u""_s
+                                       << u"Uyuşmuyor: ödenecek tutar 999.98, hesaplanan 1,000.00"_s;
         QTest::newRow("another currency") << EsmmXml(dollars) << u""_s << u"Döviz: USD"_s;
         QTest::newRow("a tax the books do not know")
             << EsmmXml(otherTax) << u""_s << u"Uyuşmuyor: tanınmayan vergi kodu 0059"_s;
@@ -156,6 +158,29 @@ private slots:
         QCOMPARE(second.summary(), QStringLiteral("4 Kayıtlı"));
         QCOMPARE(rowsIn("carhar") + rowsIn("defter") + rowsIn("makbuz"), 9);
         QCOMPARE(rowsIn("carkart"), 1); // one payer
+    }
+
+    void theSameEttnWrittenOtherwiseIsKnown_data()
+    {
+        QTest::addColumn<QString>("ettn");
+        QTest::addColumn<bool>("keptInBraces"); // as books of an earlier version kept a braced one
+        QTest::newRow("capitals") << u"6F1C2A4E-0000-4000-8000-000000000001"_s << false;
+        QTest::newRow("braces and blanks") << u" {6f1c2a4e-0000-4000-8000-000000000001} "_s << false;
+        QTest::newRow("kept in braces") << u"6f1c2a4e-0000-4000-8000-000000000001"_s << true;
+    }
+
+    void theSameEttnWrittenOtherwiseIsKnown()
+    {
+        QFETCH(QString, ettn);
+        QFETCH(bool, keptInBraces);
+        QCOMPARE(importPaths({ write(QStringLiteral("1.xml"), EsmmXml(SampleEsmm())) }).summary(),
+            QStringLiteral("1 Aktarıldı"));
+        if (keptInBraces)
+            QVERIFY(dataFiles().db->run(QStringLiteral("UPDATE makbuz SET ettn = '{' || ettn || '}'")));
+        SampleEsmm again;
+        again.ettn = ettn;
+        QCOMPARE(
+            importPaths({ write(QStringLiteral("2.xml"), EsmmXml(again)) }).summary(), QStringLiteral("1 Kayıtlı"));
     }
 
     void payersAreFoundByTaxNumber()
