@@ -1,5 +1,6 @@
 #include "books/DataFiles.h"
 #include "books/Parameters.h"
+#include "esmm/EsmmFiles.h"
 #include "esmm/EsmmImport.h"
 #include "testsupport/Books.h"
 #include "testsupport/BooksFixture.h"
@@ -98,6 +99,10 @@ private slots:
             sample.payable = amount;
             return EsmmXml(sample);
         };
+        const auto sized = [](qint64 size) {
+            const QByteArray xml = EsmmXml(SampleEsmm());
+            return xml + QByteArray(size - xml.size(), ' ');
+        };
         SampleEsmm dollars;
         dollars.currency = QStringLiteral("USD");
         SampleEsmm otherTax;
@@ -108,6 +113,8 @@ private slots:
             << payable(u"1000.01"_s) << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
         QTest::newRow("two kuruş off") << payable(u"999.98"_s) << u""_s
                                        << u"Uyuşmuyor: ödenecek tutar 999.98, hesaplanan 1,000.00"_s;
+        QTest::newRow("4 MB") << sized(MaxEsmmBytes) << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
+        QTest::newRow("past 4 MB") << sized(MaxEsmmBytes + 1) << u""_s << u"Okunamadı: belge 4 MB'tan büyük"_s;
         QTest::newRow("another currency") << EsmmXml(dollars) << u""_s << u"Döviz: USD"_s;
         QTest::newRow("a tax the books do not know")
             << EsmmXml(otherTax) << u""_s << u"Uyuşmuyor: tanınmayan vergi kodu 0059"_s;
@@ -186,7 +193,7 @@ private slots:
     void payersAreFoundByTaxNumber()
     {
         QVERIFY(AddCard(QStringLiteral("E0000001"), QStringLiteral("Başka"), QStringLiteral("5555555555")));
-        QVERIFY(AddCard(QStringLiteral("M1"), QStringLiteral("Bilinen Müşteri"), QStringLiteral("2222222222")));
+        QVERIFY(AddCard(QStringLiteral("M1"), QStringLiteral("Bilinen Müşteri"), QStringLiteral(" 2222222222 ")));
         SampleEsmm stranger = NumberedEsmm(2);
         stranger.payerId = QStringLiteral("33333333333"); // a person's tckn
         const EsmmImport run = importPaths({ write(QStringLiteral("1.xml"), EsmmXml(NumberedEsmm(1))),
@@ -197,6 +204,29 @@ private slots:
         QCOMPARE(run.rows()[2].statusText(), QStringLiteral("Aktarıldı"));
         QCOMPARE(QueryTexts(QStringLiteral("SELECT kod AS r FROM carhar ORDER BY oto"), QStringLiteral("r")),
             QStringList({ "M1", "E0000002", "E0000002" }));
+    }
+
+    void zipEntriesAreCounted_data()
+    {
+        QTest::addColumn<qint64>("entries");
+        QTest::addColumn<QString>("status");
+        QTest::newRow("as many as may be") << MaxZipEntries << u"Aktarıldı (yeni cari E0000001)"_s;
+        QTest::newRow("one more") << MaxZipEntries + 1 << u"Okunamadı: ZIP dosyasında 100000'den fazla girdi var"_s;
+    }
+
+    void zipEntriesAreCounted()
+    {
+        QFETCH(qint64, entries);
+        QFETCH(QString, status);
+        std::vector<std::pair<QString, QByteArray>> files { { QStringLiteral("belge.xml"), EsmmXml(SampleEsmm()) } };
+        for (qint64 n = 1; n < entries; ++n)
+            files.emplace_back(QString::number(n), QByteArray());
+        const QString zip = m_books->path() + QStringLiteral("/belgeler/toplu.zip");
+        QDir().mkpath(QFileInfo(zip).path());
+        QVERIFY(WriteZip(zip, files));
+        const EsmmImport run = importPaths({ zip });
+        QCOMPARE(run.rows().size(), size_t(1));
+        QCOMPARE(run.rows().front().statusText(), status);
     }
 
     void hostileZipFiles_data()
