@@ -631,6 +631,22 @@ private slots:
         QCOMPARE(m_list->editor()->geometry(), view()->visualRect(view()->model()->index(0, 3)));
     }
 
+    // A figure a pixel or a few wider than its column's room (less the text margins) widens the
+    // column when painted.
+    void figureJustTooWideWidensItsColumn()
+    {
+        fillRows({ { "05.11.2026", "Kira", "123456.78", "B" } });
+        const QString shown = view()->model()->index(0, 2).data().toString();
+        const int margins = 2 * (view()->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view()) + 1);
+        const int fitting = QFontMetrics(view()->font()).horizontalAdvance(shown) + margins;
+        for (int short_ = 1; short_ <= 3; ++short_) {
+            view()->setColumnWidth(2, fitting - short_);
+            view()->grab();
+            QCoreApplication::processEvents();
+            QCOMPARE(view()->columnWidth(2), fitting);
+        }
+    }
+
     void insertMakesRoomAtTheCurrentRow()
     {
         fillRows({ { "", "A" }, { "", "B" }, { "", "C" } });
