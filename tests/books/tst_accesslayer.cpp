@@ -192,6 +192,7 @@ private slots:
         QTest::newRow("i finds İ") << u"İSMAİL"_s << u"ismail"_s << true;
         QTest::newRow("i does not find I") << u"IRMAK"_s << u"irmak"_s << false;
         QTest::newRow("c does not find ç") << u"ÇAM"_s << u"cam"_s << false;
+        QTest::newRow("ß, whose capital is SS, is sought as it stands") << u"AS"_s << u"aß"_s << false;
     }
 
     void turkishCaseFolding()
