@@ -8,8 +8,10 @@
 #include "books/Postings.h"
 #include "books/Statement.h"
 #include "esmm/EsmmFiles.h"
+#include "money/AmountConventions.h"
 #include "money/FormatAmount.h"
 #include "money/ReceiptCalculation.h"
+#include "money/RoundAmount.h"
 
 #include <QHash>
 
@@ -17,6 +19,20 @@
 #include <algorithm>
 
 namespace {
+
+// The first new document with an amount the books would round (they keep the decimals "TL Onda"
+// gives them), or nullptr: a document is posted exactly as issued or not at all.
+const EsmmRow *roundedByTheBooks(const std::vector<EsmmRow> &rows)
+{
+    for (const EsmmRow &row : rows) {
+        const EsmmDocument &d = row.document;
+        if (row.status == EsmmStatus::New)
+            for (const Currency amount : { d.gross, d.stopaj, d.kdv, d.withheld, AmountDue(d) })
+                if (RoundAmount(amount) != amount)
+                    return &row;
+    }
+    return nullptr;
+}
 
 // What the document states differs from what its lines and taxes give by more than a kuruş.
 constexpr qint64 kurus = Currency::Scale / 100;
@@ -179,6 +195,14 @@ bool EsmmImport::post(QString *why)
 {
     if (count(EsmmStatus::New) == 0)
         return true;
+    if (const EsmmRow *row = roundedByTheBooks(m_rows)) {
+        *why = QStringLiteral("%1 numaralı belgenin tutarları kuruşlu; defter tutarları \"Ayarlar\" ekranındaki \"TL "
+                              "Onda\" ayarıyla %2 ondalıkla tutuyor. Tutarlar yuvarlanmasın diye hiçbir belge "
+                              "aktarılmadı: \"TL Onda\" ayarını 2 yapıp yeniden aktarınız.")
+                   .arg(row->document.makbuzNo)
+                   .arg(amountConventions().tlonda);
+        return false;
+    }
     Database &db = *dataFiles().db;
     Backups::beforeChange();
     if (!db.run(QStringLiteral("BEGIN IMMEDIATE"))) {

@@ -2,6 +2,7 @@
 #include "books/Parameters.h"
 #include "esmm/EsmmFiles.h"
 #include "esmm/EsmmImport.h"
+#include "money/AmountConventions.h"
 #include "testsupport/Books.h"
 #include "testsupport/BooksFixture.h"
 #include "testsupport/EsmmSamples.h"
@@ -87,6 +88,32 @@ private slots:
         QCOMPARE(postings(), QStringList { posted });
         QCOMPARE(StoredRows(u"kod, unv, vd, vn, tip FROM carkart"_s),
             QStringList { "E0000001|Alıcı Danışmanlık A.Ş.|Çankaya|2222222222|0" });
+    }
+
+    void kurusNeedBooksThatKeepThem_data()
+    {
+        QTest::addColumn<int>("decimals"); // "TL Onda"
+        QTest::addColumn<QStringList>("owed");
+        QTest::newRow("books of whole lira: nothing posted, nothing rounded") << 0 << QStringList();
+        QTest::newRow("books of kuruş: posted as issued") << 2 << QStringList { "12345700" };
+    }
+
+    void kurusNeedBooksThatKeepThem()
+    {
+        QFETCH(int, decimals);
+        QFETCH(QStringList, owed);
+        amountConventions().tlonda = decimals;
+        SampleEsmm kurus;
+        kurus.gross = kurus.payable = QStringLiteral("1234.57");
+        kurus.stopaj = kurus.kdv = QStringLiteral("246.91");
+        kurus.total = QStringLiteral("1481.48");
+        kurus.taxes = QStringLiteral("493.82");
+        EsmmImport run;
+        run.read({ write(QStringLiteral("k.xml"), EsmmXml(kurus)) });
+        QString why;
+        QCOMPARE(run.post(&why), !owed.isEmpty());
+        QCOMPARE(why.contains(u"\"TL Onda\""), owed.isEmpty());
+        QCOMPARE(StoredRows(u"tutar FROM carhar"_s), owed);
     }
 
     void heldBackDocumentsPostNothing_data()
