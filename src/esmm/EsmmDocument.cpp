@@ -174,9 +174,10 @@ bool DocumentReader::leaf(QStringView name, const QString &text)
         d.makbuzNo = text;
     else if (name == u"ETTN")
         d.ettn = ettnKey(text);
-    else if (name == u"belgeTarihi")
+    else if (name == u"belgeTarihi") {
+        d.dateText = text;
         d.date = QDate::fromString(text.left(10), Qt::ISODate);
-    else if (name == u"paraBirimi")
+    } else if (name == u"paraBirimi")
         d.currency = text.toUpper();
     else {
         Currency stated;
@@ -230,6 +231,11 @@ void DocumentReader::settle()
 }
 
 } // namespace
+
+QDate FirstEsmmDay()
+{
+    return QDate(2019, 10, 19);
+}
 
 bool ReadEsmmDocument(const QByteArray &xml, EsmmDocument *document, QString *why)
 {

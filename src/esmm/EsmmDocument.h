@@ -17,6 +17,7 @@ struct EsmmDocument
     QString ettn; // the document's identity
     QString issuer; // the mukellef's vkn or tckn
     QDate date; // belgeTarihi
+    QString dateText; // belgeTarihi as written
     QString currency; // paraBirimi, "TRY" when absent
     QString payerId; // the alici's vkn or tckn
     QString payerName; // its unvan or adiSoyadi
@@ -36,6 +37,10 @@ struct EsmmDocument
     std::optional<Currency> statedPayable; // odenecekTutar
     std::optional<Currency> statedTaxes; // vergilerToplami
 };
+
+// The first day an e-SMM could be issued: the day the communiqué that brought them in (VUK
+// General Communiqué no. 509) was published.
+QDate FirstEsmmDay();
 
 // Reads one document; false with the reason when the text is not a readable e-SMM. A document
 // type declaration is refused outright: no entity is ever expanded.

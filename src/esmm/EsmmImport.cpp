@@ -3,6 +3,7 @@
 #include "books/AccessLayer.h"
 #include "books/Backups.h"
 #include "books/CharacterCount.h"
+#include "books/Clock.h"
 #include "books/DataFiles.h"
 #include "books/Parameters.h"
 #include "books/Postings.h"
@@ -32,6 +33,19 @@ const EsmmRow *roundedByTheBooks(const std::vector<EsmmRow> &rows)
                     return &row;
     }
     return nullptr;
+}
+
+// Why the document's date cannot be a receipt's date, or "": one that does not exist, one after
+// today, one before e-SMMs could be issued.
+QString wrongDate(const EsmmDocument &d)
+{
+    if (!d.date.isValid())
+        return QStringLiteral("belge tarihi geçersiz (%1)").arg(d.dateText);
+    if (d.date > Today())
+        return QStringLiteral("belge tarihi ileride (%1)").arg(d.date.toString(u"dd.MM.yyyy"));
+    if (d.date < FirstEsmmDay())
+        return QStringLiteral("belge tarihi ilk e-SMM gününden önce");
+    return QString();
 }
 
 // What the document states differs from what its lines and taxes give by more than a kuruş.
@@ -176,11 +190,14 @@ void EsmmImport::read(const QStringList &paths)
 void EsmmImport::check(EsmmRow &row)
 {
     const EsmmDocument &d = row.document;
-    if (d.ettn.isEmpty() || !d.date.isValid() || d.makbuzNo.isEmpty()) {
+    if (d.ettn.isEmpty() || d.dateText.isEmpty() || d.makbuzNo.isEmpty()) {
         row.status = EsmmStatus::Unreadable;
         row.reason = d.ettn.isEmpty() ? QStringLiteral("ETTN yok")
-            : d.date.isValid()        ? QStringLiteral("makbuz numarası yok")
+            : d.makbuzNo.isEmpty()    ? QStringLiteral("makbuz numarası yok")
                                       : QStringLiteral("belge tarihi yok");
+    } else if (const QString wrong = wrongDate(d); !wrong.isEmpty()) {
+        row.status = EsmmStatus::Mismatch;
+        row.reason = wrong;
     } else if (d.currency != u"TRY") {
         row.status = EsmmStatus::Foreign;
         row.reason = d.currency;

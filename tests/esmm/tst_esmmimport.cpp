@@ -1,3 +1,4 @@
+#include "books/Clock.h"
 #include "books/DataFiles.h"
 #include "books/Parameters.h"
 #include "esmm/EsmmFiles.h"
@@ -130,6 +131,11 @@ private slots:
             const QByteArray xml = EsmmXml(SampleEsmm());
             return xml + QByteArray(size - xml.size(), ' ');
         };
+        const auto dated = [](QDate date) {
+            SampleEsmm sample;
+            sample.date = date;
+            return EsmmXml(sample);
+        };
         SampleEsmm dollars;
         dollars.currency = QStringLiteral("USD");
         SampleEsmm otherTax;
@@ -142,6 +148,14 @@ private slots:
                                        << u"Uyuşmuyor: ödenecek tutar 999.98, hesaplanan 1,000.00"_s;
         QTest::newRow("4 MB") << sized(MaxEsmmBytes) << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
         QTest::newRow("past 4 MB") << sized(MaxEsmmBytes + 1) << u""_s << u"Okunamadı: belge 4 MB'tan büyük"_s;
+        QTest::newRow("a day that does not exist") << EsmmXml(SampleEsmm()).replace("2026-11-16", "2026-02-30") << u""_s
+                                                   << u"Uyuşmuyor: belge tarihi geçersiz (2026-02-30)"_s;
+        const QDate tomorrow = Today().addDays(1);
+        QTest::newRow("after today") << dated(tomorrow) << u""_s
+                                     << u"Uyuşmuyor: belge tarihi ileride (%1)"_s.arg(tomorrow.toString(u"dd.MM.yyyy"));
+        const QByteArray early = dated(QDate(2019, 10, 18));
+        QTest::newRow("before e-SMMs") << early << u""_s << u"Uyuşmuyor: belge tarihi ilk e-SMM gününden önce"_s;
+        QTest::newRow("their first day") << dated(QDate(2019, 10, 19)) << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
         QTest::newRow("another currency") << EsmmXml(dollars) << u""_s << u"Döviz: USD"_s;
         QTest::newRow("a tax the books do not know")
             << EsmmXml(otherTax) << u""_s << u"Uyuşmuyor: tanınmayan vergi kodu 0059"_s;
