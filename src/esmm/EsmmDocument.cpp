@@ -113,7 +113,7 @@ bool DocumentReader::startElement()
         QStringLiteral("tckn"), QStringLiteral("unvan"), QStringLiteral("adiSoyadi"), QStringLiteral("vDaire"),
         QStringLiteral("ad"), QStringLiteral("burutUcret"), QStringLiteral("matrah"), QStringLiteral("vergiKodu"),
         QStringLiteral("vergiTutari"), QStringLiteral("vergiOrani"), QStringLiteral("tevkifatKodu"),
-        QStringLiteral("tevkifatTutari"), QStringLiteral("tevkifatOrani") };
+        QStringLiteral("tevkifatTutari"), QStringLiteral("tevkifatOrani"), QStringLiteral("kdvTahakkukIcin") };
     if (!leaves.contains(name))
         return true;
     const QString text = m_xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
@@ -166,6 +166,10 @@ bool DocumentReader::leaf(QStringView name, const QString &text)
     }
     if ((name == u"vkn" || name == u"tckn") && under(u"mukellef")) {
         d.issuer = text;
+        return true;
+    }
+    if (name == u"kdvTahakkukIcin") {
+        d.vatAccrualOnly = text == u"true" || text == u"1";
         return true;
     }
     if (parent() != u"serbestMeslekMakbuz" && name != u"vergilerToplami")

@@ -23,6 +23,7 @@ struct EsmmDocument
     QString payerName; // its unvan or adiSoyadi
     QString payerTaxOffice; // vDaire
     QString firstLine; // the first malHizmet's ad
+    bool vatAccrualOnly = false; // kdvTahakkukIcin: issued for the VAT alone, the fee not yet collected
 
     Currency gross; // the lines' burutUcret, or the taxes' matrah where the lines have none
     Currency stopaj; // tax 0003

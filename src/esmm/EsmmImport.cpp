@@ -198,6 +198,9 @@ void EsmmImport::check(EsmmRow &row)
     } else if (const QString wrong = wrongDate(d); !wrong.isEmpty()) {
         row.status = EsmmStatus::Mismatch;
         row.reason = wrong;
+    } else if (d.vatAccrualOnly) { // income counts when the fee is collected
+        row.status = EsmmStatus::Mismatch;
+        row.reason = QStringLiteral("yalnız KDV tahakkuku için düzenlenmiş; ücreti tahsil edince giriniz");
     } else if (d.currency != u"TRY") {
         row.status = EsmmStatus::Foreign;
         row.reason = d.currency;

@@ -156,6 +156,13 @@ private slots:
         const QByteArray early = dated(QDate(2019, 10, 18));
         QTest::newRow("before e-SMMs") << early << u""_s << u"Uyuşmuyor: belge tarihi ilk e-SMM gününden önce"_s;
         QTest::newRow("their first day") << dated(QDate(2019, 10, 19)) << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
+        const auto accrual = [](const char *value) {
+            return EsmmXml(SampleEsmm())
+                .replace("<paraBirimi>", QByteArray("<kdvTahakkukIcin>") + value + "</kdvTahakkukIcin><paraBirimi>");
+        };
+        QTest::newRow("for the VAT alone") << accrual(
+            "true") << u""_s << u"Uyuşmuyor: yalnız KDV tahakkuku için düzenlenmiş; ücreti tahsil edince giriniz"_s;
+        QTest::newRow("not for the VAT alone") << accrual("false") << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
         QTest::newRow("another currency") << EsmmXml(dollars) << u""_s << u"Döviz: USD"_s;
         QTest::newRow("a tax the books do not know")
             << EsmmXml(otherTax) << u""_s << u"Uyuşmuyor: tanınmayan vergi kodu 0059"_s;
