@@ -3,7 +3,6 @@
 #include "books/DataFiles.h"
 #include "books/OpenBooks.h"
 #include "esmm/EsmmImport.h"
-#include "money/FormatAmount.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,7 +23,8 @@ int RunEsmmCommand(const QString &programFolder, const QStringList &paths, QText
     const bool posted = run.post(&why);
     for (const EsmmRow &row : run.rows())
         out << row.origin << '\t' << row.document.makbuzNo << '\t' << row.document.date.toString(u"dd.MM.yyyy") << '\t'
-            << FormatAmount(row.document.gross, 3) << '\t' << row.statusText() << '\n';
+            << (row.document.gross == Currency() ? QString() : EsmmAmountText(row.document.gross)) << '\t'
+            << row.statusText() << '\n';
     if (!posted)
         out << why << '\n';
     out << run.summary() << '\n';

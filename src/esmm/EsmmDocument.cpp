@@ -209,28 +209,47 @@ bool DocumentReader::taxLeaf(QStringView name, const QString &text)
     return true;
 }
 
+// The stopaj, VAT and withheld VAT of a list of taxes.
+EsmmDocument::Taxes sumOf(const std::vector<Tax> &taxes)
+{
+    EsmmDocument::Taxes sums;
+    for (const Tax &tax : taxes) {
+        if (tax.withholding)
+            sums.withheld += tax.amount;
+        else if (tax.code == u"0003")
+            sums.stopaj += tax.amount;
+        else if (tax.code == u"0015")
+            sums.kdv += tax.amount;
+    }
+    return sums;
+}
+
 // The document's own taxes where it states them, else those of its lines.
 void DocumentReader::settle()
 {
     EsmmDocument &d = *m_document;
     if (d.currency.isEmpty())
         d.currency = QStringLiteral("TRY");
+    const std::vector<Tax> &taxes = m_documentTaxes.empty() ? m_lineTaxes : m_documentTaxes;
+    const EsmmDocument::Taxes sums = sumOf(taxes);
+    d.stopaj = sums.stopaj;
+    d.kdv = sums.kdv;
+    d.withheld = sums.withheld;
     std::optional<Currency> vatBase, stopajBase;
-    for (const Tax &tax : m_documentTaxes.empty() ? m_lineTaxes : m_documentTaxes) {
+    for (const Tax &tax : taxes) {
         if (tax.withholding) {
-            d.withheld += tax.amount;
             d.withheldPercent = d.withheldPercent != 0 ? d.withheldPercent : tax.percent;
             d.withheldCode = d.withheldCode.isEmpty() ? tax.code : d.withheldCode;
         } else if (tax.code == u"0003") {
-            d.stopaj += tax.amount;
             stopajBase = stopajBase ? stopajBase : tax.base;
         } else if (tax.code == u"0015") {
-            d.kdv += tax.amount;
             vatBase = vatBase ? vatBase : tax.base;
         } else if (!d.otherTaxCodes.contains(tax.code)) {
             d.otherTaxCodes << tax.code;
         }
     }
+    if (!m_documentTaxes.empty() && !m_lineTaxes.empty())
+        d.lineTaxes = sumOf(m_lineTaxes);
     d.gross = m_linesHaveGross ? m_linesGross : vatBase.value_or(stopajBase.value_or(Currency()));
 }
 

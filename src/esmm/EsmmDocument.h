@@ -33,6 +33,13 @@ struct EsmmDocument
     QString withheldCode; // tevkifatKodu
     QStringList otherTaxCodes; // codes that are neither 0003 nor 0015
 
+    // The taxes of the lines, where the document states its own as well: both must agree.
+    struct Taxes
+    {
+        Currency stopaj, kdv, withheld;
+    };
+    std::optional<Taxes> lineTaxes;
+
     // The totals as the document states them; absent ones are not checked.
     std::optional<Currency> statedTotal; // toplamTutar
     std::optional<Currency> statedPayable; // odenecekTutar

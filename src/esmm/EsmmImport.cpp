@@ -53,7 +53,7 @@ constexpr qint64 kurus = Currency::Scale / 100;
 
 QString differs(const QString &what, Currency stated, Currency rebuilt)
 {
-    return QStringLiteral("%1 %2, hesaplanan %3").arg(what, FormatAmount(stated, 3), FormatAmount(rebuilt, 3));
+    return QStringLiteral("%1 %2, hesaplanan %3").arg(what, EsmmAmountText(stated), EsmmAmountText(rebuilt));
 }
 
 bool apart(const std::optional<Currency> &stated, Currency rebuilt)
@@ -74,6 +74,20 @@ QString mismatch(const EsmmDocument &d)
         return QStringLiteral("alıcının vergi numarası yok");
     if (d.gross <= Currency())
         return QStringLiteral("brüt ücret yok");
+    if (d.lineTaxes) {
+        const std::pair<const char *, Currency> sums[] = { { "stopajı", d.lineTaxes->stopaj },
+            { "KDV'si", d.lineTaxes->kdv }, { "tevkifatı", d.lineTaxes->withheld } };
+        const Currency own[] = { d.stopaj, d.kdv, d.withheld };
+        for (int i = 0; i < 3; ++i)
+            if (apart(own[i], sums[i].second))
+                return QStringLiteral("belgenin %1 %2, satırlarınki %3")
+                    .arg(QString::fromUtf8(sums[i].first), EsmmAmountText(own[i]), EsmmAmountText(sums[i].second));
+    }
+    // The VAT withheld is its share (in percent) of the VAT.
+    const Currency share = Currency::fromRaw(d.kdv.raw() * d.withheldPercent / 100);
+    if (apart(d.withheld, share))
+        return QStringLiteral("tevkifat %1; oranı %2, KDV %3")
+            .arg(EsmmAmountText(d.withheld), u'%' + QString::number(d.withheldPercent), EsmmAmountText(d.kdv));
     const Currency payable = AmountDue(d);
     if (apart(d.statedPayable, payable))
         return differs(QStringLiteral("ödenecek tutar"), *d.statedPayable, payable);
@@ -141,6 +155,15 @@ QString EsmmStatusName(EsmmStatus status)
     static const char16_t *const names[EsmmStatusCount]
         = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Aktarıldı" };
     return QString::fromUtf16(names[int(status)]);
+}
+
+QString EsmmAmountText(Currency amount)
+{
+    QString text = FormatNumber(amount.toString(), 2, 3);
+    const qsizetype point = text.indexOf(u'.');
+    if (point == 0 || (point == 1 && text.front() == u'-'))
+        text.insert(point, u'0');
+    return text.isEmpty() ? QStringLiteral("0.00") : text;
 }
 
 Currency AmountDue(const EsmmDocument &d)

@@ -27,6 +27,10 @@ QString EsmmStatusName(EsmmStatus status);
 // fee (gross less withholding, no fund) with the VAT, less the VAT the payer withholds.
 Currency AmountDue(const EsmmDocument &document);
 
+// An amount as the statuses and the command line show it: grouped, with two decimals and its
+// leading zero ("0.13", "0.00", "1,234.50").
+QString EsmmAmountText(Currency amount);
+
 struct EsmmRow
 {
     QString origin;

@@ -32,9 +32,9 @@ private slots:
         QCOMPARE(run({ QStringLiteral("--esmm-aktar"), path(QStringLiteral("a.zip")) }, &out), 0);
         QCOMPARE(out,
             path(QStringLiteral("a.zip:1.xml"))
-                + QStringLiteral("\tGIB2026000000001\t16.11.2026\t1,000\tAktarıldı (yeni cari E0000001)\n")
+                + QStringLiteral("\tGIB2026000000001\t16.11.2026\t1,000.00\tAktarıldı (yeni cari E0000001)\n")
                 + path(QStringLiteral("a.zip:2.xml"))
-                + QStringLiteral("\tGIB2026000000002\t16.11.2026\t1,000\tAktarıldı\n2 Aktarıldı\n"));
+                + QStringLiteral("\tGIB2026000000002\t16.11.2026\t1,000.00\tAktarıldı\n2 Aktarıldı\n"));
         QCOMPARE(run({ QStringLiteral("--esmm-aktar"), path(QStringLiteral("a.zip")) }, &out), 0);
         QVERIFY2(out.endsWith(QStringLiteral("\n2 Kayıtlı\n")), qPrintable(out));
         QCOMPARE(run({ QStringLiteral("--esmm-aktar"), path(QStringLiteral("a.zip")), path(QStringLiteral("yok.xml")) },

@@ -144,6 +144,8 @@ private slots:
                                          << u"Uyuşmuyor: ödenecek tutar 1,100.00, hesaplanan 1,000.00"_s;
         QTest::newRow("within a kuruş it adds up")
             << payable(u"1000.01"_s) << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
+        QTest::newRow("amounts below a lira")
+            << payable(u"0.13"_s) << u""_s << u"Uyuşmuyor: ödenecek tutar 0.13, hesaplanan 1,000.00"_s;
         QTest::newRow("two kuruş off") << payable(u"999.98"_s) << u""_s
                                        << u"Uyuşmuyor: ödenecek tutar 999.98, hesaplanan 1,000.00"_s;
         QTest::newRow("4 MB") << sized(MaxEsmmBytes) << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
@@ -163,6 +165,19 @@ private slots:
         QTest::newRow("for the VAT alone") << accrual(
             "true") << u""_s << u"Uyuşmuyor: yalnız KDV tahakkuku için düzenlenmiş; ücreti tahsil edince giriniz"_s;
         QTest::newRow("not for the VAT alone") << accrual("false") << u""_s << u"Aktarıldı (yeni cari E0000001)"_s;
+        QByteArray halfVat = EsmmXml(SampleEsmm()); // the document's own VAT 10 %, its line's 20 %
+        const QByteArray lineVat = "<vergiKodu>0015</vergiKodu><vergiTutari>200.00</vergiTutari><vergiOrani>20";
+        halfVat.replace(halfVat.indexOf(lineVat), lineVat.size(), QByteArray(lineVat).replace("200.00", "100.00"));
+        QTest::newRow("the document's VAT is not its lines'")
+            << halfVat << u""_s << u"Uyuşmuyor: belgenin KDV'si 100.00, satırlarınki 200.00"_s;
+        SampleEsmm noShare;
+        noShare.withheld = QStringLiteral("18.00");
+        noShare.withheldRate = QStringLiteral("0");
+        noShare.payable = QStringLiteral("982.00");
+        noShare.total = QStringLiteral("1182.00");
+        noShare.taxes = QStringLiteral("382.00");
+        QTest::newRow("VAT withheld at no share")
+            << EsmmXml(noShare) << u""_s << u"Uyuşmuyor: tevkifat 18.00; oranı %0, KDV 200.00"_s;
         QTest::newRow("another currency") << EsmmXml(dollars) << u""_s << u"Döviz: USD"_s;
         QTest::newRow("a tax the books do not know")
             << EsmmXml(otherTax) << u""_s << u"Uyuşmuyor: tanınmayan vergi kodu 0059"_s;
