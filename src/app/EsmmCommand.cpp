@@ -15,6 +15,10 @@ int RunEsmmCommand(const QString &programFolder, const QStringList &paths, QText
                    .arg(QDir::toNativeSeparators(programFolder));
         return 2;
     }
+    if (paths.isEmpty()) {
+        out << QStringLiteral("Aktarılacak dosya ya da klasör verilmedi.\n");
+        return 1;
+    }
     if (!OpenBooks(programFolder))
         return 2;
     EsmmImport run;
@@ -29,7 +33,8 @@ int RunEsmmCommand(const QString &programFolder, const QStringList &paths, QText
         out << why << '\n';
     out << run.summary() << '\n';
     CloseDataFiles();
-    const bool clean = posted
+    const int documents = int(run.rows().size()) - run.count(EsmmStatus::Skipped);
+    const bool clean = posted && documents > 0
         && run.count(EsmmStatus::Mismatch) + run.count(EsmmStatus::Unreadable) + run.count(EsmmStatus::Foreign) == 0;
     return clean ? 0 : 1;
 }
@@ -40,7 +45,7 @@ QString CommandLineHelp()
                           "  (seçeneksiz)           programı açar; veri dosyası (xsmm.dat) programın klasöründedir\n"
                           "  --esmm-aktar YOL...    e-SMM belgelerini (XML, ZIP ya da klasör) pencere açmadan\n"
                           "                         deftere aktarır; çıkış durumu 0: hepsi aktarıldı ya da zaten\n"
-                          "                         kayıtlı, 1: tutmayan ya da okunamayan belge var, 2: veri\n"
-                          "                         dosyası açılamadı\n"
+                          "                         kayıtlı, 1: tutmayan ya da okunamayan belge var ya da hiç belge\n"
+                          "                         bulunamadı, 2: veri dosyası açılamadı\n"
                           "  --help                 bu açıklama\n");
 }

@@ -153,7 +153,7 @@ private:
 QString EsmmStatusName(EsmmStatus status)
 {
     static const char16_t *const names[EsmmStatusCount]
-        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Aktarıldı" };
+        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Aktarıldı", u"Atlandı" };
     return QString::fromUtf16(names[int(status)]);
 }
 
@@ -192,10 +192,12 @@ void EsmmImport::read(const QStringList &paths)
     ReadEsmmFiles(paths, [&](const EsmmFile &file) {
         EsmmRow row;
         row.origin = file.origin;
-        row.reason = file.error;
+        row.reason = file.skipped.isEmpty() ? file.error : file.skipped;
         if (row.reason.isEmpty() && file.xml.trimmed().isEmpty())
             row.reason = QStringLiteral("boş dosya");
-        if (row.reason.isEmpty() && ReadEsmmDocument(file.xml, &row.document, &row.reason)) {
+        if (!file.skipped.isEmpty()) {
+            row.status = EsmmStatus::Skipped;
+        } else if (row.reason.isEmpty() && ReadEsmmDocument(file.xml, &row.document, &row.reason)) {
             known.reset();
             const bool inBooks = known.bind(1, row.document.ettn) && known.next();
             row.status = inBooks || seen.contains(row.document.ettn) ? EsmmStatus::Known : EsmmStatus::New;

@@ -17,10 +17,11 @@ enum class EsmmStatus {
     Unreadable, // "Okunamadı: …": not an e-SMM, or the file could not be read
     Foreign, // "Döviz: …": in another currency
     Posted, // "Aktarıldı": posted by this run
+    Skipped, // "Atlandı: …": a file beside the documents, neither an e-SMM nor a ZIP file
 };
-constexpr int EsmmStatusCount = 6;
+constexpr int EsmmStatusCount = 7;
 
-// The status's name: "Yeni", "Kayıtlı", "Uyuşmuyor", "Okunamadı", "Döviz", "Aktarıldı".
+// The status's name: "Yeni", "Kayıtlı", "Uyuşmuyor", "Okunamadı", "Döviz", "Aktarıldı", "Atlandı".
 QString EsmmStatusName(EsmmStatus status);
 
 // What the payer owes on the document, as the receipt screen computes a receipt's total: the net
@@ -38,7 +39,8 @@ struct EsmmRow
     EsmmStatus status = EsmmStatus::New;
     QString reason;
     QString newCard; // the code of the card made for its payer
-    // "Yeni", "Kayıtlı", "Uyuşmuyor: …", "Okunamadı: …", "Döviz: …", "Aktarıldı (yeni cari …)".
+    // "Yeni", "Kayıtlı", "Uyuşmuyor: …", "Okunamadı: …", "Döviz: …", "Aktarıldı (yeni cari …)",
+    // "Atlandı: …".
     QString statusText() const;
 };
 

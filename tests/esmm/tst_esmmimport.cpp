@@ -11,6 +11,8 @@
 
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -221,11 +223,12 @@ private slots:
         QVERIFY(WriteZip(zip, entries));
         const QString folder = m_books->path() + QStringLiteral("/belgeler");
         EsmmImport first = importPaths({ zip, folder });
-        QCOMPARE(first.summary(), QStringLiteral("4 Kayıtlı, 3 Aktarıldı")); // the folder holds the ZIP and 2.xml again
+        // the folder holds the ZIP and 2.xml again; the PDF has its line
+        QCOMPARE(first.summary(), QStringLiteral("4 Kayıtlı, 3 Aktarıldı, 2 Atlandı"));
         QCOMPARE(rowsIn("carhar"), 3);
         QCOMPARE(first.rows().front().origin, zip + QStringLiteral(":e-smm/1.xml"));
         EsmmImport second = importPaths({ folder });
-        QCOMPARE(second.summary(), QStringLiteral("4 Kayıtlı"));
+        QCOMPARE(second.summary(), QStringLiteral("4 Kayıtlı, 1 Atlandı"));
         QCOMPARE(rowsIn("carhar") + rowsIn("defter") + rowsIn("makbuz"), 9);
         QCOMPARE(rowsIn("carkart"), 1); // one payer
     }
@@ -274,7 +277,8 @@ private slots:
         QTest::addColumn<qint64>("entries");
         QTest::addColumn<QString>("status");
         QTest::newRow("as many as may be") << MaxZipEntries << u"Aktarıldı (yeni cari E0000001)"_s;
-        QTest::newRow("one more") << MaxZipEntries + 1 << u"Okunamadı: ZIP dosyasında 100000'den fazla girdi var"_s;
+        QTest::newRow("one more") << MaxZipEntries + 1
+                                  << u"Okunamadı: ZIP dosyalarında toplam 100000'den fazla girdi var"_s;
     }
 
     void zipEntriesAreCounted()
@@ -283,13 +287,59 @@ private slots:
         QFETCH(QString, status);
         std::vector<std::pair<QString, QByteArray>> files { { QStringLiteral("belge.xml"), EsmmXml(SampleEsmm()) } };
         for (qint64 n = 1; n < entries; ++n)
-            files.emplace_back(QString::number(n), QByteArray());
+            files.emplace_back(QStringLiteral("%1/").arg(n), QByteArray()); // folders: passed over quietly
         const QString zip = m_books->path() + QStringLiteral("/belgeler/toplu.zip");
         QDir().mkpath(QFileInfo(zip).path());
         QVERIFY(WriteZip(zip, files));
         const EsmmImport run = importPaths({ zip });
         QCOMPARE(run.rows().size(), size_t(1));
         QCOMPARE(run.rows().front().statusText(), status);
+    }
+
+    // The portal's bulk download: a ZIP of per-document ZIPs, each with the document and its view;
+    // archivers' clutter passed over quietly; ZIPs no deeper than the limit.
+    void zipsInsideZips_data()
+    {
+        QTest::addColumn<int>("depth"); // of the deepest ZIP file
+        QTest::addColumn<QStringList>("statuses");
+        QTest::newRow("documents in their own ZIPs")
+            << 2
+            << QStringList { "Aktarıldı (yeni cari E0000001)", "Atlandı: e-SMM ya da ZIP dosyası değil", "Aktarıldı" };
+        QTest::newRow("deeper than the limit") << MaxZipDepth
+                + 1 << QStringList { "Okunamadı: ZIP dosyası 3 kattan derinde", "Aktarıldı (yeni cari E0000001)" };
+    }
+
+    void zipsInsideZips()
+    {
+        QFETCH(int, depth);
+        QFETCH(QStringList, statuses);
+        QByteArray inner = ZipBytes({ { u"1.xml"_s, EsmmXml(NumberedEsmm(1)) }, { u"1.html"_s, "<html/>" },
+            { u"__MACOSX/._1.xml"_s, "\0\5\26\7" }, { u".DS_Store"_s, "x" } });
+        const QByteArray second = ZipBytes(
+            { { u"2.xml"_s, EsmmXml(NumberedEsmm(2)) }, { u"._2.xml"_s, "\0\5\26\7" }, { u"Thumbs.db"_s, "x" } });
+        for (int level = 2; level < depth; ++level)
+            inner = ZipBytes({ { u"ic.zip"_s, inner } });
+        const QString zip
+            = write(QStringLiteral("toplu.zip"), ZipBytes({ { u"1.zip"_s, inner }, { u"2.zip"_s, second } }));
+        const EsmmImport run = importPaths({ zip });
+        QStringList found;
+        for (const EsmmRow &row : run.rows())
+            found << row.statusText();
+        QCOMPARE(found, statuses);
+    }
+
+    // A FIFO named on the command line, a link to a device in a folder: refused before reading.
+    void onlyRegularFilesAreRead()
+    {
+        const QString folder = m_books->path() + QStringLiteral("/belgeler");
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(QFile::link(QStringLiteral("/dev/zero"), folder + QStringLiteral("/sonsuz.xml")));
+        const QString fifo = m_books->path() + QStringLiteral("/boru.xml");
+        QVERIFY(mkfifo(QFile::encodeName(fifo).constData(), 0600) == 0);
+        const EsmmImport run = importPaths({ fifo, folder });
+        QCOMPARE(run.rows().size(), size_t(2));
+        for (const EsmmRow &row : run.rows())
+            QCOMPARE(row.statusText(), QStringLiteral("Okunamadı: düzenli bir dosya değil"));
     }
 
     void hostileZipFiles_data()

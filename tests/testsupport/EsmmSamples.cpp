@@ -1,6 +1,7 @@
 #include "testsupport/EsmmSamples.h"
 
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <zip.h>
 
@@ -75,4 +76,12 @@ bool WriteZip(const QString &path, const std::vector<std::pair<QString, QByteArr
         }
     }
     return zip_close(archive) == 0;
+}
+
+QByteArray ZipBytes(const std::vector<std::pair<QString, QByteArray>> &entries)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("a.zip"));
+    QFile zip(path);
+    return WriteZip(path, entries) && zip.open(QIODevice::ReadOnly) ? zip.readAll() : QByteArray();
 }

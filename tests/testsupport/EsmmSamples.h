@@ -34,3 +34,5 @@ QByteArray EsmmXml(const SampleEsmm &sample);
 SampleEsmm NumberedEsmm(int n, const SampleEsmm &sample = SampleEsmm());
 // A ZIP file of the named entries; false when it could not be written.
 bool WriteZip(const QString &path, const std::vector<std::pair<QString, QByteArray>> &entries);
+// The bytes of such a ZIP file, to put inside another ("" when it could not be made).
+QByteArray ZipBytes(const std::vector<std::pair<QString, QByteArray>> &entries);
