@@ -15,10 +15,6 @@ int RunEsmmCommand(const QString &programFolder, const QStringList &paths, QText
                    .arg(QDir::toNativeSeparators(programFolder));
         return 2;
     }
-    if (paths.isEmpty()) {
-        out << QStringLiteral("Aktarılacak dosya ya da klasör verilmedi.\n");
-        return 1;
-    }
     if (!OpenBooks(programFolder))
         return 2;
     EsmmImport run;

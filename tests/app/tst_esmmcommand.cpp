@@ -43,6 +43,10 @@ private slots:
         QVERIFY2(out.contains(QStringLiteral("yok.xml\t\t\t\tOkunamadı: dosya bulunamadı\n2 Kayıtlı, 1 Okunamadı\n")),
             qPrintable(out));
         QCOMPARE(counts(), QStringList({ "2|2|2", "ok" }));
+        QCOMPARE(run({ QStringLiteral("--esmm-aktar") }, &out), 1); // no path
+        QVERIFY(QDir().mkpath(path(QStringLiteral("bos"))));
+        QCOMPARE(run({ QStringLiteral("--esmm-aktar"), path(QStringLiteral("bos")) }, &out), 1);
+        QVERIFY2(out.endsWith(QStringLiteral("Belge bulunamadı\n")), qPrintable(out));
         QCOMPARE(run({ QStringLiteral("--help") }, &out), 0);
         QVERIFY(out.contains(QStringLiteral("--esmm-aktar YOL...")));
     }
