@@ -31,7 +31,9 @@ int RunEsmmCommand(const QString &programFolder, const QStringList &paths, QText
     CloseDataFiles();
     const int documents = int(run.rows().size()) - run.count(EsmmStatus::Skipped);
     const bool clean = posted && documents > 0
-        && run.count(EsmmStatus::Mismatch) + run.count(EsmmStatus::Unreadable) + run.count(EsmmStatus::Foreign) == 0;
+        && run.count(EsmmStatus::Mismatch) + run.count(EsmmStatus::Unreadable) + run.count(EsmmStatus::Foreign)
+                + run.count(EsmmStatus::Conflict)
+            == 0;
     return clean ? 0 : 1;
 }
 

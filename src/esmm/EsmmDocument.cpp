@@ -100,8 +100,13 @@ bool DocumentReader::startElement()
         return false;
     }
     m_path << name;
-    if (name == u"serbestMeslekMakbuz")
+    if (name == u"serbestMeslekMakbuz") {
+        if (m_isReceipt) { // never merged into one
+            m_error = QStringLiteral("dosyada birden çok makbuz var");
+            return false;
+        }
         m_isReceipt = true;
+    }
     if (name == u"vergi" || name == u"tevkifat") {
         m_tax = Tax();
         m_tax.withholding = name == u"tevkifat";

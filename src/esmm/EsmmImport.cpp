@@ -9,6 +9,7 @@
 #include "books/Postings.h"
 #include "books/Statement.h"
 #include "esmm/EsmmFiles.h"
+#include "esmm/KeptEsmms.h"
 #include "money/AmountConventions.h"
 #include "money/FormatAmount.h"
 #include "money/ReceiptCalculation.h"
@@ -153,7 +154,7 @@ private:
 QString EsmmStatusName(EsmmStatus status)
 {
     static const char16_t *const names[EsmmStatusCount]
-        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Aktarıldı", u"Atlandı" };
+        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Çakışma", u"Aktarıldı", u"Atlandı" };
     return QString::fromUtf16(names[int(status)]);
 }
 
@@ -180,36 +181,53 @@ QString EsmmRow::statusText() const
     return EsmmStatusName(status);
 }
 
+// A file already listed is not listed again: picking the same files twice shows each document once.
 void EsmmImport::read(const QStringList &paths)
 {
-    // Books of earlier versions kept an ETTN written with braces in its braces.
-    Statement known(
-        dataFiles().db->handle(), QStringLiteral("SELECT 1 FROM makbuz WHERE ettn = ?1 OR ettn = '{' || ?1 || '}'"));
-    QSet<QString> seen;
+    KeptEsmms kept;
+    QSet<QString> listed;
     for (const EsmmRow &row : m_rows)
-        if (row.status == EsmmStatus::New || row.status == EsmmStatus::Posted)
-            seen.insert(row.document.ettn);
+        listed.insert(row.origin);
     ReadEsmmFiles(paths, [&](const EsmmFile &file) {
+        if (listed.contains(file.origin))
+            return;
+        listed.insert(file.origin);
         EsmmRow row;
         row.origin = file.origin;
         row.reason = file.skipped.isEmpty() ? file.error : file.skipped;
         if (row.reason.isEmpty() && file.xml.trimmed().isEmpty())
             row.reason = QStringLiteral("boş dosya");
-        if (!file.skipped.isEmpty()) {
+        if (!file.skipped.isEmpty())
             row.status = EsmmStatus::Skipped;
-        } else if (row.reason.isEmpty() && ReadEsmmDocument(file.xml, &row.document, &row.reason)) {
-            known.reset();
-            const bool inBooks = known.bind(1, row.document.ettn) && known.next();
-            row.status = inBooks || seen.contains(row.document.ettn) ? EsmmStatus::Known : EsmmStatus::New;
-            if (row.status == EsmmStatus::New)
-                check(row);
-            if (row.status == EsmmStatus::New)
-                seen.insert(row.document.ettn);
-        } else {
+        else if (row.reason.isEmpty() && ReadEsmmDocument(file.xml, &row.document, &row.reason))
+            classify(row, kept);
+        else
             row.status = EsmmStatus::Unreadable;
-        }
         m_rows.push_back(std::move(row));
     });
+}
+
+// A document met before (in the books, or earlier in this import) is "Kayıtlı" when both copies
+// agree and a conflict when they do not; so is a second ETTN for an issuer's receipt number.
+void EsmmImport::classify(EsmmRow &row, KeptEsmms &kept)
+{
+    const EsmmDocument &d = row.document;
+    const std::optional<EsmmDocument> earlier = m_new.contains(d.ettn) ? m_new.value(d.ettn) : kept.find(d.ettn);
+    const QString numberKey = d.issuer + u'|' + d.makbuzNo;
+    const QString otherEttn = m_numbers.value(numberKey, kept.otherEttnOfNumber(d));
+    if (earlier) {
+        row.reason = EsmmDifferences(*earlier, d);
+        row.status = row.reason.isEmpty() ? EsmmStatus::Known : EsmmStatus::Conflict;
+    } else if (!otherEttn.isEmpty() && otherEttn != d.ettn) {
+        row.status = EsmmStatus::Conflict;
+        row.reason = QStringLiteral("%1 numaralı makbuz başka bir ETTN ile (%2) var").arg(d.makbuzNo, otherEttn);
+    } else {
+        check(row);
+    }
+    if (row.status == EsmmStatus::New) {
+        m_new.insert(d.ettn, d);
+        m_numbers.insert(numberKey, d.ettn);
+    }
 }
 
 void EsmmImport::check(EsmmRow &row)

@@ -2,11 +2,13 @@
 
 #include "esmm/EsmmDocument.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
 
+class KeptEsmms;
 class PayerCards;
 
 // What became of a document found.
@@ -16,12 +18,14 @@ enum class EsmmStatus {
     Mismatch, // "Uyuşmuyor: …": held back, with the reason
     Unreadable, // "Okunamadı: …": not an e-SMM, or the file could not be read
     Foreign, // "Döviz: …": in another currency
+    Conflict, // "Çakışma: …": its ETTN or its number is in the books (or came earlier) with other contents
     Posted, // "Aktarıldı": posted by this run
     Skipped, // "Atlandı: …": a file beside the documents, neither an e-SMM nor a ZIP file
 };
-constexpr int EsmmStatusCount = 7;
+constexpr int EsmmStatusCount = 8;
 
-// The status's name: "Yeni", "Kayıtlı", "Uyuşmuyor", "Okunamadı", "Döviz", "Aktarıldı", "Atlandı".
+// The status's name: "Yeni", "Kayıtlı", "Uyuşmuyor", "Okunamadı", "Döviz", "Çakışma", "Aktarıldı",
+// "Atlandı".
 QString EsmmStatusName(EsmmStatus status);
 
 // What the payer owes on the document, as the receipt screen computes a receipt's total: the net
@@ -39,8 +43,8 @@ struct EsmmRow
     EsmmStatus status = EsmmStatus::New;
     QString reason;
     QString newCard; // the code of the card made for its payer
-    // "Yeni", "Kayıtlı", "Uyuşmuyor: …", "Okunamadı: …", "Döviz: …", "Aktarıldı (yeni cari …)",
-    // "Atlandı: …".
+    // "Yeni", "Kayıtlı", "Uyuşmuyor: …", "Okunamadı: …", "Döviz: …", "Çakışma: …",
+    // "Aktarıldı (yeni cari …)", "Atlandı: …".
     QString statusText() const;
 };
 
@@ -62,8 +66,11 @@ public:
     QString summary() const;
 
 private:
+    void classify(EsmmRow &row, KeptEsmms &kept);
     void check(EsmmRow &row);
     bool postRow(EsmmRow &row, PayerCards &cards);
 
     std::vector<EsmmRow> m_rows;
+    QHash<QString, EsmmDocument> m_new; // the documents found new, by ETTN
+    QHash<QString, QString> m_numbers; // their ETTNs by issuer and number
 };

@@ -180,6 +180,11 @@ private slots:
         noShare.taxes = QStringLiteral("382.00");
         QTest::newRow("VAT withheld at no share")
             << EsmmXml(noShare) << u""_s << u"Uyuşmuyor: tevkifat 18.00; oranı %0, KDV 200.00"_s;
+        QByteArray twoReceipts = EsmmXml(SampleEsmm());
+        const qsizetype from = twoReceipts.indexOf("<serbestMeslekMakbuz>"), to = twoReceipts.indexOf("</eArsivVeri>");
+        twoReceipts.insert(to, twoReceipts.mid(from, to - from));
+        QTest::newRow("two receipts in one file")
+            << twoReceipts << u""_s << u"Okunamadı: dosyada birden çok makbuz var"_s;
         QTest::newRow("another currency") << EsmmXml(dollars) << u""_s << u"Döviz: USD"_s;
         QTest::newRow("a tax the books do not know")
             << EsmmXml(otherTax) << u""_s << u"Uyuşmuyor: tanınmayan vergi kodu 0059"_s;
@@ -223,14 +228,45 @@ private slots:
         QVERIFY(WriteZip(zip, entries));
         const QString folder = m_books->path() + QStringLiteral("/belgeler");
         EsmmImport first = importPaths({ zip, folder });
-        // the folder holds the ZIP and 2.xml again; the PDF has its line
-        QCOMPARE(first.summary(), QStringLiteral("4 Kayıtlı, 3 Aktarıldı, 2 Atlandı"));
+        // the folder holds the ZIP (listed once) and 2.xml again; the PDF has its line
+        QCOMPARE(first.summary(), QStringLiteral("1 Kayıtlı, 3 Aktarıldı, 1 Atlandı"));
         QCOMPARE(rowsIn("carhar"), 3);
         QCOMPARE(first.rows().front().origin, zip + QStringLiteral(":e-smm/1.xml"));
         EsmmImport second = importPaths({ folder });
         QCOMPARE(second.summary(), QStringLiteral("4 Kayıtlı, 1 Atlandı"));
         QCOMPARE(rowsIn("carhar") + rowsIn("defter") + rowsIn("makbuz"), 9);
         QCOMPARE(rowsIn("carkart"), 1); // one payer
+    }
+
+    void secondCopiesThatDifferAreConflicts_data()
+    {
+        QTest::addColumn<SampleEsmm>("second");
+        QTest::addColumn<bool>("sameRun"); // else the first is in the books already
+        QTest::addColumn<QString>("status");
+        SampleEsmm later = NumberedEsmm(1);
+        later.date = QDate(2026, 11, 17);
+        SampleEsmm renamed = NumberedEsmm(1);
+        renamed.ettn = QStringLiteral("6f1c2a4e-0000-4000-8000-000000000099");
+        const QString taken = u"Çakışma: GIB2026000000001 numaralı makbuz başka bir ETTN ile "
+                              "(6f1c2a4e-0000-4000-8000-000000000001) var"_s;
+        QTest::newRow("its date, in the books") << later << false << u"Çakışma: aynı ETTN, farklı tarih"_s;
+        QTest::newRow("its date, in one run") << later << true << u"Çakışma: aynı ETTN, farklı tarih"_s;
+        QTest::newRow("its ETTN, in the books") << renamed << false << taken;
+        QTest::newRow("its ETTN, in one run") << renamed << true << taken;
+    }
+
+    void secondCopiesThatDifferAreConflicts()
+    {
+        QFETCH(SampleEsmm, second);
+        QFETCH(bool, sameRun);
+        QFETCH(QString, status);
+        const QString first = write(QStringLiteral("1.xml"), EsmmXml(NumberedEsmm(1)));
+        const QString again = write(QStringLiteral("2.xml"), EsmmXml(second));
+        if (!sameRun)
+            importPaths({ first });
+        const EsmmImport run = importPaths(sameRun ? QStringList { first, again } : QStringList { again });
+        QCOMPARE(run.rows().back().statusText(), status);
+        QCOMPARE(rowsIn("makbuz"), 1);
     }
 
     void theSameEttnWrittenOtherwiseIsKnown_data()
