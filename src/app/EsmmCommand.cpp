@@ -15,7 +15,7 @@ int RunEsmmCommand(const QString &programFolder, const QStringList &paths, QText
                    .arg(QDir::toNativeSeparators(programFolder));
         return 2;
     }
-    if (!OpenBooks(programFolder))
+    if (!OpenBooks(programFolder, BooksCopy::BeforeChange))
         return 2;
     EsmmImport run;
     run.read(paths);

@@ -16,7 +16,7 @@
 namespace {
 
 const QString namePattern = QStringLiteral("xsmm-*.dat");
-constexpr int keptLatest = 10;
+constexpr int keptDays = 10;
 constexpr int keptMonths = 12;
 
 // The day the books last were copied, and which books they were.
@@ -112,14 +112,15 @@ QStringList surplus(const QStringList &names, QDate today)
 {
     QStringList sorted = names;
     std::sort(sorted.begin(), sorted.end());
-    std::set<QString> kept;
-    for (int i = std::max(0, int(sorted.size()) - keptLatest); i < sorted.size(); ++i)
-        kept.insert(sorted.at(i));
     const QDate firstMonth = QDate(today.year(), today.month(), 1).addMonths(1 - keptMonths);
-    std::set<QString> monthsSeen;
+    std::set<QDate> days;
+    std::set<QString> months, kept;
     for (auto name = sorted.crbegin(); name != sorted.crend(); ++name) {
         const QDate day = dayOf(*name);
-        if (day.isValid() && day >= firstMonth && monthsSeen.insert(name->mid(5, 7)).second)
+        const bool newestOfDay = day.isValid() && days.insert(day).second;
+        if (!day.isValid() || (newestOfDay && days.size() <= size_t(keptDays))) // a name not ours stays
+            kept.insert(*name);
+        if (day.isValid() && day >= firstMonth && months.insert(name->mid(5, 7)).second)
             kept.insert(*name);
     }
     QStringList removed;

@@ -8,7 +8,8 @@ class Database;
 
 // Copies of the books in the folder "yedek" beside them, each named by the moment it was made
 // ("xsmm-2026-11-23-174455.dat"), taken through the engine's online backup so that a copy is
-// always a consistent database. Made at every start and before the first change of each day.
+// always a consistent database. Made at every start of the window and before the first change
+// of each day.
 namespace Backups {
 
 QString folder();
@@ -18,8 +19,9 @@ bool make(Database &db);
 void beforeChange();
 // The newest copy's path, or "" when there is none.
 QString newest();
-// Of the copies' file names, those to remove: all but the ten newest and the newest of each of
-// the twelve months up to `today`.
+// Of the copies' file names, those to remove: all but the newest of each of the last ten days
+// that have one and the newest of each of the twelve months up to `today`, however many copies
+// a day has. A name that does not read as a copy's is never removed.
 QStringList surplus(const QStringList &names, QDate today);
 
 } // namespace Backups

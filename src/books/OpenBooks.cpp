@@ -47,7 +47,7 @@ QString startFailureText(DataFileState state)
 
 } // namespace
 
-bool OpenBooks(const QString &programFolder)
+bool OpenBooks(const QString &programFolder, BooksCopy copy)
 {
     SetStartConventions();
     SetProgramFolder(programFolder);
@@ -63,7 +63,8 @@ bool OpenBooks(const QString &programFolder)
         Message::exclamation(startFailureText(state));
         return false;
     }
-    Backups::make(*dataFiles().db);
+    if (copy == BooksCopy::AtStart)
+        Backups::make(*dataFiles().db);
     LoadParameters();
     return true;
 }

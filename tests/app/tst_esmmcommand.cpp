@@ -35,8 +35,10 @@ private slots:
                 + QStringLiteral("\tGIB2026000000001\t16.11.2026\t1,000.00\tAktarıldı (yeni cari E0000001)\n")
                 + path(QStringLiteral("a.zip:2.xml"))
                 + QStringLiteral("\tGIB2026000000002\t16.11.2026\t1,000.00\tAktarıldı\n2 Aktarıldı\n"));
+        QVERIFY(QDir(path(QStringLiteral("yedek"))).removeRecursively());
         QCOMPARE(run({ QStringLiteral("--esmm-aktar"), path(QStringLiteral("a.zip")) }, &out), 0);
         QVERIFY2(out.endsWith(QStringLiteral("\n2 Kayıtlı\n")), qPrintable(out));
+        QVERIFY(!QDir(path(QStringLiteral("yedek"))).exists()); // nothing posted, nothing copied
         QCOMPARE(run({ QStringLiteral("--esmm-aktar"), path(QStringLiteral("a.zip")), path(QStringLiteral("yok.xml")) },
                      &out),
             1);
