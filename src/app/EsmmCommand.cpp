@@ -29,11 +29,10 @@ int RunEsmmCommand(const QString &programFolder, const QStringList &paths, QText
         out << why << '\n';
     out << run.summary() << '\n';
     CloseDataFiles();
+    // Every document found was posted, or was in the books already.
     const int documents = int(run.rows().size()) - run.count(EsmmStatus::Skipped);
-    const bool clean = posted && documents > 0
-        && run.count(EsmmStatus::Mismatch) + run.count(EsmmStatus::Unreadable) + run.count(EsmmStatus::Foreign)
-                + run.count(EsmmStatus::Conflict)
-            == 0;
+    const bool clean
+        = posted && documents > 0 && run.count(EsmmStatus::Posted) + run.count(EsmmStatus::Known) == documents;
     return clean ? 0 : 1;
 }
 

@@ -154,7 +154,7 @@ private:
 QString EsmmStatusName(EsmmStatus status)
 {
     static const char16_t *const names[EsmmStatusCount]
-        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Döviz", u"Çakışma", u"Aktarıldı", u"Atlandı" };
+        = { u"Yeni", u"Kayıtlı", u"Uyuşmuyor", u"Okunamadı", u"Eksik", u"Döviz", u"Çakışma", u"Aktarıldı", u"Atlandı" };
     return QString::fromUtf16(names[int(status)]);
 }
 
@@ -234,7 +234,7 @@ void EsmmImport::check(EsmmRow &row)
 {
     const EsmmDocument &d = row.document;
     if (d.ettn.isEmpty() || d.dateText.isEmpty() || d.makbuzNo.isEmpty()) {
-        row.status = EsmmStatus::Unreadable;
+        row.status = EsmmStatus::Incomplete;
         row.reason = d.ettn.isEmpty() ? QStringLiteral("ETTN yok")
             : d.makbuzNo.isEmpty()    ? QStringLiteral("makbuz numarası yok")
                                       : QStringLiteral("belge tarihi yok");

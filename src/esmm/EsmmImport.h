@@ -17,15 +17,16 @@ enum class EsmmStatus {
     Known, // "Kayıtlı": its ETTN is in the books (or came earlier in this run)
     Mismatch, // "Uyuşmuyor: …": held back, with the reason
     Unreadable, // "Okunamadı: …": not an e-SMM, or the file could not be read
+    Incomplete, // "Eksik: …": an e-SMM without its ETTN, number or date
     Foreign, // "Döviz: …": in another currency
     Conflict, // "Çakışma: …": its ETTN or its number is in the books (or came earlier) with other contents
     Posted, // "Aktarıldı": posted by this run
     Skipped, // "Atlandı: …": a file beside the documents, neither an e-SMM nor a ZIP file
 };
-constexpr int EsmmStatusCount = 8;
+constexpr int EsmmStatusCount = 9;
 
-// The status's name: "Yeni", "Kayıtlı", "Uyuşmuyor", "Okunamadı", "Döviz", "Çakışma", "Aktarıldı",
-// "Atlandı".
+// The status's name: "Yeni", "Kayıtlı", "Uyuşmuyor", "Okunamadı", "Eksik", "Döviz", "Çakışma",
+// "Aktarıldı", "Atlandı".
 QString EsmmStatusName(EsmmStatus status);
 
 // What the payer owes on the document, as the receipt screen computes a receipt's total: the net
@@ -43,7 +44,7 @@ struct EsmmRow
     EsmmStatus status = EsmmStatus::New;
     QString reason;
     QString newCard; // the code of the card made for its payer
-    // "Yeni", "Kayıtlı", "Uyuşmuyor: …", "Okunamadı: …", "Döviz: …", "Çakışma: …",
+    // "Yeni", "Kayıtlı", "Uyuşmuyor: …", "Okunamadı: …", "Eksik: …", "Döviz: …", "Çakışma: …",
     // "Aktarıldı (yeni cari …)", "Atlandı: …".
     QString statusText() const;
 };

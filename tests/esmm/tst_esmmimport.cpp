@@ -185,6 +185,9 @@ private slots:
         twoReceipts.insert(to, twoReceipts.mid(from, to - from));
         QTest::newRow("two receipts in one file")
             << twoReceipts << u""_s << u"Okunamadı: dosyada birden çok makbuz var"_s;
+        SampleEsmm unnamed;
+        unnamed.ettn.clear();
+        QTest::newRow("no ETTN") << EsmmXml(unnamed) << u""_s << u"Eksik: ETTN yok"_s;
         QTest::newRow("another currency") << EsmmXml(dollars) << u""_s << u"Döviz: USD"_s;
         QTest::newRow("a tax the books do not know")
             << EsmmXml(otherTax) << u""_s << u"Uyuşmuyor: tanınmayan vergi kodu 0059"_s;
