@@ -90,3 +90,25 @@ QStringList Database::texts(const QString &sql, int *error)
         *error = rc == SQLITE_DONE ? SQLITE_OK : rc & 0xff;
     return rows;
 }
+
+QString Database::lastFailure() const
+{
+    switch (sqlite3_errcode(m_db) & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return QStringLiteral("veri dosyası başka bir program tarafından kullanılıyor");
+    case SQLITE_FULL:
+        return QStringLiteral("disk dolu");
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_CANTOPEN:
+        return QStringLiteral("veri dosyasına yazılamıyor");
+    case SQLITE_IOERR:
+        return QStringLiteral("diske okunamıyor ya da yazılamıyor");
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return QStringLiteral("veri dosyası bozuk");
+    default:
+        return QString::fromUtf8(sqlite3_errmsg(m_db));
+    }
+}

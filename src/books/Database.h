@@ -29,6 +29,9 @@ public:
     // The first column of every row of a statement that takes no values, as texts; the engine's
     // result code in `error` (SQLITE_OK when all rows were read).
     QStringList texts(const QString &sql, int *error = nullptr);
+    // Why the engine's last statement failed, in the user's words (the file in use by another
+    // program, the disk full, the file read-only, …).
+    QString lastFailure() const;
     // How long a statement waits for another program's lock on the file before it gives up.
     static constexpr int BusyMilliseconds = 3000;
 

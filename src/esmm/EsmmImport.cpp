@@ -268,30 +268,33 @@ bool EsmmImport::post(QString *why)
     }
     Database &db = *dataFiles().db;
     Backups::beforeChange();
-    if (!db.run(QStringLiteral("BEGIN IMMEDIATE"))) {
-        *why = QStringLiteral("Veri dosyası başka bir program tarafından kullanılıyor; hiçbir belge aktarılmadı.");
-        return false;
-    }
-    PayerCards cards;
     QString failure;
-    for (EsmmRow &row : m_rows)
-        if (row.status == EsmmStatus::New && !postRow(row, cards)) {
-            failure = QStringLiteral("%1 kaydedilemedi; hiçbir belge aktarılmadı.").arg(row.document.makbuzNo);
-            break;
+    if (!db.run(QStringLiteral("BEGIN IMMEDIATE"))) {
+        failure = QStringLiteral("Aktarım başlatılamadı (%1)").arg(db.lastFailure());
+    } else {
+        PayerCards cards;
+        for (EsmmRow &row : m_rows)
+            if (row.status == EsmmStatus::New && !postRow(row, cards)) {
+                failure = QStringLiteral("%1 kaydedilemedi").arg(row.document.makbuzNo);
+                break;
+            }
+        if (failure.isEmpty() && !db.run(QStringLiteral("COMMIT")))
+            failure = QStringLiteral("Aktarım tamamlanamadı");
+        if (!failure.isEmpty()) {
+            failure += QStringLiteral(" (%1)").arg(db.lastFailure()); // before the rollback's own result
+            db.run(QStringLiteral("ROLLBACK"));
         }
-    if (failure.isEmpty() && !db.run(QStringLiteral("COMMIT")))
-        failure = QStringLiteral("Aktarım tamamlanamadı; hiçbir belge aktarılmadı.");
-    if (!failure.isEmpty())
-        db.run(QStringLiteral("ROLLBACK"));
+    }
     // Every new row was posted, or none was (and no card made for one of them stands).
     for (EsmmRow &row : m_rows)
-        if (row.status == EsmmStatus::New) {
-            if (failure.isEmpty())
-                row.status = EsmmStatus::Posted;
-            else
-                row.newCard.clear();
+        if (row.status == EsmmStatus::New && failure.isEmpty()) {
+            row.status = EsmmStatus::Posted;
+            row.reason.clear();
+        } else if (row.status == EsmmStatus::New) {
+            row.reason = QStringLiteral("aktarılmadı");
+            row.newCard.clear();
         }
-    *why = failure;
+    *why = failure.isEmpty() ? QString() : failure + QStringLiteral("; hiçbir belge aktarılmadı.");
     return failure.isEmpty();
 }
 

@@ -272,6 +272,37 @@ private slots:
         QCOMPARE(rowsIn("makbuz"), 1);
     }
 
+    void failedPostingSaysWhy_data()
+    {
+        QTest::addColumn<QString>("fault");
+        QTest::addColumn<QString>("mended");
+        QTest::addColumn<QString>("why");
+        QTest::newRow("read-only books") << u"PRAGMA query_only = 1"_s << u"PRAGMA query_only = 0"_s
+                                         << u"Aktarım başlatılamadı (veri dosyasına yazılamıyor)"_s;
+        QTest::newRow("a row refused")
+            << u"CREATE TEMP TRIGGER t BEFORE INSERT ON defter BEGIN SELECT RAISE(ABORT, 'ret'); END"_s
+            << u"DROP TRIGGER temp.t"_s << u"GIB2026000000001 kaydedilemedi (ret)"_s;
+    }
+
+    // A posting that fails says why, its rows say they were not posted, and a second try posts them.
+    void failedPostingSaysWhy()
+    {
+        QFETCH(QString, fault);
+        QFETCH(QString, mended);
+        QFETCH(QString, why);
+        EsmmImport run;
+        run.read({ write(QStringLiteral("1.xml"), EsmmXml(SampleEsmm())) });
+        QVERIFY(dataFiles().db->run(fault));
+        QString said;
+        QVERIFY(!run.post(&said));
+        QCOMPARE(said, why + QStringLiteral("; hiçbir belge aktarılmadı."));
+        QCOMPARE(run.rows().front().statusText(), QStringLiteral("Yeni: aktarılmadı"));
+        QCOMPARE(rowsIn("carhar") + rowsIn("defter") + rowsIn("makbuz") + rowsIn("carkart"), 0);
+        QVERIFY(dataFiles().db->run(mended));
+        QVERIFY(run.post(&said));
+        QCOMPARE(run.rows().front().statusText(), QStringLiteral("Aktarıldı (yeni cari E0000001)"));
+    }
+
     void theSameEttnWrittenOtherwiseIsKnown_data()
     {
         QTest::addColumn<QString>("ettn");
