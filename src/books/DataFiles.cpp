@@ -90,6 +90,10 @@ const std::vector<TableShape> &schema()
     return tables;
 }
 
+// An issuer's receipt is sought by its number, to find a second ETTN for it.
+const QString makbuzNumberIndex
+    = QStringLiteral("CREATE INDEX IF NOT EXISTS \"makbuz_makbuzno\" ON \"makbuz\" (\"makbuzno\")");
+
 // The program's own table beside the five: what a receipt keeps that they have no column for (the
 // VAT its payer withheld; the identity of a document brought in from the portal). One row per
 // receipt, keyed by its ledger row's oto.
@@ -101,6 +105,7 @@ const QStringList &ownTables()
             "\"tevkoran\" INTEGER, \"tevkifat\" CURRENCY CHECK(typeof(\"tevkifat\") IN ('integer', 'null')), "
             "\"tevkkod\" TEXT, \"makbuzno\" TEXT, \"ettn\" TEXT, \"vkn\" TEXT, \"dosya\" TEXT)"),
         QStringLiteral("CREATE UNIQUE INDEX \"makbuz_ettn\" ON \"makbuz\" (\"ettn\")"),
+        makbuzNumberIndex,
     };
     return sql;
 }
@@ -121,12 +126,14 @@ bool runAllOrNothing(Database &db, const QStringList &steps)
     return false;
 }
 
-// Books made before the program's own table get it, empty, when they open: no row changes.
+// Books made before the program's own table get it, empty, when they open, and before its
+// index of numbers that index: no row changes.
 bool addOwnTables(Database &db)
 {
     return !db.texts(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name = 'makbuz'"))
                 .isEmpty()
-        || runAllOrNothing(db, ownTables());
+        ? db.run(makbuzNumberIndex)
+        : runAllOrNothing(db, ownTables());
 }
 
 QString &programFolder()

@@ -214,13 +214,14 @@ void EsmmImport::classify(EsmmRow &row, KeptEsmms &kept)
     const EsmmDocument &d = row.document;
     const std::optional<EsmmDocument> earlier = m_new.contains(d.ettn) ? m_new.value(d.ettn) : kept.find(d.ettn);
     const QString numberKey = d.issuer + u'|' + d.makbuzNo;
-    const QString otherEttn = m_numbers.value(numberKey, kept.otherEttnOfNumber(d));
     if (earlier) {
         row.reason = EsmmDifferences(*earlier, d);
         row.status = row.reason.isEmpty() ? EsmmStatus::Known : EsmmStatus::Conflict;
-    } else if (!otherEttn.isEmpty() && otherEttn != d.ettn) {
+    } else if (const QString other
+               = m_numbers.contains(numberKey) ? m_numbers.value(numberKey) : kept.otherEttnOfNumber(d);
+               !other.isEmpty()) {
         row.status = EsmmStatus::Conflict;
-        row.reason = QStringLiteral("%1 numaralı makbuz başka bir ETTN ile (%2) var").arg(d.makbuzNo, otherEttn);
+        row.reason = QStringLiteral("%1 numaralı makbuz başka bir ETTN ile (%2) var").arg(d.makbuzNo, other);
     } else {
         check(row);
     }

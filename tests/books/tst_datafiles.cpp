@@ -158,6 +158,10 @@ private slots:
             QStringList({ "carhar_islemtarih", "carhar_kodbakiye", "carhar_kodtarih" }));
         QCOMPARE(QueryTexts(QStringLiteral("SELECT kod || tutar AS r FROM carhar"), QStringLiteral("r")),
             QStringList { "K15" });
+        QVERIFY(SqlExecute(*dataFiles().db, QStringLiteral("DROP INDEX makbuz_makbuzno"))); // made before it
+        QVERIFY(OpenDataFiles());
+        QCOMPARE(StoredRows(u"name FROM pragma_index_list('makbuz') ORDER BY name"_s),
+            QStringList({ "makbuz_ettn", "makbuz_makbuzno" }));
     }
 
     void fileThatIsNotOursIsLeftAlone_data()
@@ -472,7 +476,7 @@ private slots:
             QCOMPARE(
                 shell(dataFile(), QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' ORDER BY name")),
                 QStringList({ "carhar_islemtarih", "carhar_kodbakiye", "carhar_kodtarih", "carkart_kod",
-                    "defter_islemcari", "defter_tarihislem", "genel_kod", "makbuz_ettn" }));
+                    "defter_islemcari", "defter_tarihislem", "genel_kod", "makbuz_ettn", "makbuz_makbuzno" }));
         } else {
             QCOMPARE(contents(dataFile()), before);
         }
