@@ -360,6 +360,13 @@ void DcList::sorting(int col)
     QApplication::restoreOverrideCursor();
 }
 
+void DcList::widenToTexts(int col)
+{
+    const int wanted = static_cast<const QAbstractItemView *>(m_view)->sizeHintForColumn(col); // public there
+    if (wanted > m_view->columnWidth(col))
+        m_view->setColumnWidth(col, wanted);
+}
+
 void DcList::fitToColumns(int rows)
 {
     int width = 0;

@@ -28,6 +28,8 @@ public:
     QString Baslik(int col) const;
     void setBaslik(int col, const QString &caption);
     int Size(int col) const;
+    // Widens a column to show its widest text whole (never narrows it).
+    void widenToTexts(int col);
     // A text column shown right-aligned (and whole, as numbers are).
     void AlignRight(int col);
     QString SectionName(int col) const;

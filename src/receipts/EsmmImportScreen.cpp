@@ -5,6 +5,7 @@
 #include "controls/ValueLabel.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -24,8 +25,12 @@ ReportColumns columns()
         AmountColumn(QStringLiteral("kdv"), QStringLiteral("KDV"), 0, 80),
         AmountColumn(QStringLiteral("tevkifat"), QStringLiteral("Tevk. KDV"), 0, 80),
         AmountColumn(QStringLiteral("odenecek"), QStringLiteral("Ödenecek"), 0, 90),
-        TextColumn(QStringLiteral("durum"), QStringLiteral("Durum"), 0, 180) };
+        TextColumn(QStringLiteral("durum"), QStringLiteral("Durum"), 0, 180),
+        TextColumn(QStringLiteral("dosya"), QStringLiteral("Dosya"), 0, 180) };
 }
+
+// The columns whose texts are shown whole: the payer, the status and the file.
+constexpr int wholeTexts[] = { 2, 8, 9 };
 
 } // namespace
 
@@ -88,12 +93,17 @@ void EsmmImportScreen::post()
 void EsmmImportScreen::showRows()
 {
     setColumns(columns());
+    std::vector<QVariantList> rows;
     for (const EsmmRow &row : m_import.rows()) {
         const EsmmDocument &d = row.document;
         const auto amount = [](Currency value) { return QVariant::fromValue(value); };
-        addRow({ d.date.isValid() ? QVariant(d.date) : QVariant(QString()), d.makbuzNo,
-            d.payerName.isEmpty() ? row.origin : d.payerName, amount(d.gross), amount(d.stopaj), amount(d.kdv),
-            amount(d.withheld), amount(AmountDue(d)), row.statusText() });
+        rows.push_back({ d.date.isValid() ? QVariant(d.date) : QVariant(QString()), d.makbuzNo, d.payerName,
+            amount(d.gross), amount(d.stopaj), amount(d.kdv), amount(d.withheld), amount(AmountDue(d)),
+            row.statusText(), QDir::toNativeSeparators(row.origin) });
     }
+    addRows(rows);
+    for (const int column : wholeTexts)
+        list()->widenToTexts(column);
+    fitToColumns();
     m_counts->setValue(m_import.summary());
 }

@@ -463,6 +463,13 @@ private slots:
         answer.stop();
         const auto statuses = [list] { return GridColumn(list, 8); };
         QCOMPARE(statuses(), QStringList({ "Yeni", "Uyuşmuyor: ödenecek tutar 999.00, hesaplanan 1,000.00" }));
+        QCOMPARE(GridColumn(list, 9).value(1), QDir::toNativeSeparators(dir.filePath(QStringLiteral("2.xml"))));
+        const int margins = 2 * (list->view()->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+        for (const int column : { 2, 8, 9 }) // the payer, the status and the file are never cut
+            for (const QString &text : GridColumn(list, column))
+                QVERIFY2(
+                    list->view()->fontMetrics().horizontalAdvance(text) + margins <= list->view()->columnWidth(column),
+                    qPrintable(text));
         QCOMPARE(screen->findChild<QLabel *>()->accessibleName(), QStringLiteral("1 Yeni, 1 Uyuşmuyor"));
         QApplication::setActiveWindow(&m_kit->window()); // back from the dialog
         QTest::keyClick(list->view(), Qt::Key_F5);
