@@ -1,7 +1,9 @@
 #include "books/Postings.h"
 
 #include "books/AccessLayer.h"
+#include "books/Backups.h"
 #include "books/DataFiles.h"
+#include "books/Database.h"
 #include "books/Statement.h"
 #include "money/RoundAmount.h"
 
@@ -127,9 +129,32 @@ bool PostingExists(PostingBook book, qint64 oto)
     return oto > 0 && RsSeek(table(book), otoIndex, oto);
 }
 
+// An imported e-SMM's rows go together, in one transaction: its account row, its ledger row and
+// its record; so the document can be imported again. Any other row goes alone.
 bool DeletePosting(PostingBook book, qint64 oto)
 {
-    return PostingExists(book, oto) && RsDelete(table(book));
+    if (!PostingExists(book, oto))
+        return false;
+    Database &db = *dataFiles().db;
+    const QString column = book == PostingBook::Accounts ? QStringLiteral("carhar") : QStringLiteral("defter");
+    const QStringList rows
+        = db.texts(QStringLiteral("SELECT carhar || ' ' || defter FROM makbuz WHERE ettn IS NOT NULL AND %1 = %2")
+                       .arg(column)
+                       .arg(oto));
+    if (rows.isEmpty())
+        return RsDelete(table(book));
+    const QStringList otos = rows.first().split(u' ');
+    Backups::beforeChange();
+    if (!db.run(QStringLiteral("BEGIN IMMEDIATE")))
+        return false;
+    const bool removed = RsDelete(table(book))
+        && SqlExecute(db, QStringLiteral("DELETE FROM carhar WHERE oto = ?1"), { otos.value(0).toLongLong() })
+        && SqlExecute(db, QStringLiteral("DELETE FROM defter WHERE oto = ?1"), { otos.value(1).toLongLong() })
+        && SqlExecute(db, QStringLiteral("DELETE FROM makbuz WHERE defter = ?1"), { otos.value(1).toLongLong() });
+    if (removed && db.run(QStringLiteral("COMMIT")))
+        return true;
+    db.run(QStringLiteral("ROLLBACK"));
+    return false;
 }
 
 qint64 StoreAccountPosting(qint64 oto, const AccountPosting &posting)

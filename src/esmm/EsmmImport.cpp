@@ -214,7 +214,10 @@ void EsmmImport::classify(EsmmRow &row, KeptEsmms &kept)
     const EsmmDocument &d = row.document;
     const std::optional<EsmmDocument> earlier = m_new.contains(d.ettn) ? m_new.value(d.ettn) : kept.find(d.ettn);
     const QString numberKey = d.issuer + u'|' + d.makbuzNo;
-    if (earlier) {
+    if (earlier && !earlier->date.isValid()) {
+        row.status = EsmmStatus::Known;
+        row.reason = QStringLiteral("defter satırı silinmiş; hesap satırıyla birlikte silinince yeniden aktarılabilir");
+    } else if (earlier) {
         row.reason = EsmmDifferences(*earlier, d);
         row.status = row.reason.isEmpty() ? EsmmStatus::Known : EsmmStatus::Conflict;
     } else if (const QString other

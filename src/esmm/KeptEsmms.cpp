@@ -9,7 +9,7 @@
 KeptEsmms::KeptEsmms()
     : m_byEttn(dataFiles().db->handle(),
         QStringLiteral("SELECT m.makbuzno, m.vkn, d.tarih, d.brut, d.stopaj, d.kdv, m.tevkifat, k.vn FROM makbuz m "
-                       "JOIN defter d ON d.oto = m.defter LEFT JOIN carkart k ON k.kod = d.cari "
+                       "LEFT JOIN defter d ON d.oto = m.defter LEFT JOIN carkart k ON k.kod = d.cari "
                        "WHERE m.ettn = ?1 OR m.ettn = '{' || ?1 || '}'"))
     , m_byNumber(dataFiles().db->handle(),
           QStringLiteral("SELECT ettn FROM makbuz WHERE makbuzno = ?1 AND vkn = ?2 AND ettn IS NOT NULL "
@@ -26,7 +26,8 @@ std::optional<EsmmDocument> KeptEsmms::find(const QString &ettn)
     kept.ettn = ettn;
     kept.makbuzNo = m_byEttn.columnText(0);
     kept.issuer = m_byEttn.columnText(1);
-    kept.date = DateFromDayNumber(m_byEttn.columnInteger(2));
+    if (m_byEttn.columnKind(2) != Statement::Kind::Null) // else its ledger row was deleted
+        kept.date = DateFromDayNumber(m_byEttn.columnInteger(2));
     Currency *amounts[] = { &kept.gross, &kept.stopaj, &kept.kdv, &kept.withheld };
     for (int i = 0; i < 4; ++i)
         *amounts[i] = Currency::fromRaw(m_byEttn.columnInteger(3 + i));

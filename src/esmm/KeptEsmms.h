@@ -11,7 +11,8 @@ class KeptEsmms
 public:
     KeptEsmms();
 
-    // The document of that ETTN as the books keep it (number, issuer, payer, date and amounts).
+    // The document of that ETTN as the books keep it (number, issuer, payer, date and amounts);
+    // without a date when its ledger row was deleted on its own (by an earlier version).
     std::optional<EsmmDocument> find(const QString &ettn);
     // The ETTN of another receipt the books keep under the document's issuer and number, or "".
     QString otherEttnOfNumber(const EsmmDocument &document);

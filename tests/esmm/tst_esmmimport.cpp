@@ -1,6 +1,7 @@
 #include "books/Clock.h"
 #include "books/DataFiles.h"
 #include "books/Parameters.h"
+#include "books/Postings.h"
 #include "esmm/EsmmFiles.h"
 #include "esmm/EsmmImport.h"
 #include "money/AmountConventions.h"
@@ -301,6 +302,33 @@ private slots:
         QVERIFY(dataFiles().db->run(mended));
         QVERIFY(run.post(&said));
         QCOMPARE(run.rows().front().statusText(), QStringLiteral("Aktarıldı (yeni cari E0000001)"));
+    }
+
+    void deletedReceiptsCanComeAgain_data()
+    {
+        QTest::addColumn<bool>("fromLedger"); // else from the account transactions
+        QTest::addColumn<bool>("ledgerRowAloneFirst"); // as an earlier version deleted it
+        QTest::newRow("its ledger row") << true << false;
+        QTest::newRow("its account row") << false << false;
+        QTest::newRow("its account row, the ledger row gone before") << false << true;
+    }
+
+    // An imported receipt's rows go together, and the document can then be imported again.
+    void deletedReceiptsCanComeAgain()
+    {
+        QFETCH(bool, fromLedger);
+        QFETCH(bool, ledgerRowAloneFirst);
+        const QString document = write(QStringLiteral("1.xml"), EsmmXml(SampleEsmm()));
+        QCOMPARE(importPaths({ document }).summary(), QStringLiteral("1 Aktarıldı"));
+        if (ledgerRowAloneFirst) {
+            QVERIFY(dataFiles().db->run(QStringLiteral("DELETE FROM defter")));
+            QCOMPARE(importPaths({ document }).rows().front().statusText(),
+                QStringLiteral(
+                    "Kayıtlı: defter satırı silinmiş; hesap satırıyla birlikte silinince yeniden aktarılabilir"));
+        }
+        QVERIFY(DeletePosting(fromLedger ? PostingBook::Ledger : PostingBook::Accounts, 1));
+        QCOMPARE(rowsIn("carhar") + rowsIn("defter") + rowsIn("makbuz"), 0);
+        QCOMPARE(importPaths({ document }).summary(), QStringLiteral("1 Aktarıldı"));
     }
 
     void theSameEttnWrittenOtherwiseIsKnown_data()
