@@ -25,8 +25,8 @@ ReportColumns columns()
         AmountColumn(QStringLiteral("kdv"), QStringLiteral("KDV"), 0, 80),
         AmountColumn(QStringLiteral("tevkifat"), QStringLiteral("Tevk. KDV"), 0, 80),
         AmountColumn(QStringLiteral("odenecek"), QStringLiteral("Ödenecek"), 0, 90),
-        TextColumn(QStringLiteral("durum"), QStringLiteral("Durum"), 0, 180),
-        TextColumn(QStringLiteral("dosya"), QStringLiteral("Dosya"), 0, 180) };
+        TextColumn(QStringLiteral("durum"), QStringLiteral("Durum"), 0, 120),
+        TextColumn(QStringLiteral("dosya"), QStringLiteral("Dosya"), 0, 60) };
 }
 
 // The columns whose texts are shown whole: the payer, the status and the file.
@@ -102,8 +102,7 @@ void EsmmImportScreen::showRows()
             row.statusText(), QDir::toNativeSeparators(row.origin) });
     }
     addRows(rows);
-    for (const int column : wholeTexts)
+    for (const int column : wholeTexts) // the window keeps its size: the list scrolls
         list()->widenToTexts(column);
-    fitToColumns();
     m_counts->setValue(m_import.summary());
 }
