@@ -1,5 +1,4 @@
 #include "money/Currency.h"
-#include "money/DayNumber.h"
 #include "money/FormatAmount.h"
 
 #include <QtTest>
@@ -119,25 +118,6 @@ private slots:
         QFETCH(qint64, raw);
         QFETCH(QString, text);
         QCOMPARE(Currency::fromRaw(raw).toString(), text);
-    }
-
-    void dayNumbers_data()
-    {
-        QTest::addColumn<QDate>("date");
-        QTest::addColumn<qint64>("day");
-        QTest::newRow("origin") << QDate(1899, 12, 30) << qint64(0);
-        QTest::newRow("first of 1900") << QDate(1900, 1, 1) << qint64(2);
-        QTest::newRow("2010") << QDate(2010, 1, 1) << qint64(40179);
-        QTest::newRow("today of the book") << QDate(2026, 11, 16) << qint64(46342);
-    }
-
-    void dayNumbers()
-    {
-        QFETCH(QDate, date);
-        QFETCH(qint64, day);
-        QCOMPARE(DayNumber(date), day);
-        QCOMPARE(DateFromDayNumber(day), date);
-        QCOMPARE(FormatDate(QDate(2010, 1, 1)), QStringLiteral("01.01.2010"));
     }
 };
 

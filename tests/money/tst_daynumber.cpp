@@ -14,6 +14,7 @@ private slots:
         QTest::addColumn<qint64>("day");
         QTest::newRow("origin") << QDate(1899, 12, 30) << qint64(0);
         QTest::newRow("day 1") << QDate(1899, 12, 31) << qint64(1);
+        QTest::newRow("first of 1900") << QDate(1900, 1, 1) << qint64(2);
         QTest::newRow("2026") << QDate(2026, 11, 16) << qint64(46342);
     }
 
