@@ -126,8 +126,8 @@ bool runAllOrNothing(Database &db, const QStringList &steps)
     return false;
 }
 
-// Books made before the program's own table get it, empty, when they open, and before its
-// index of numbers that index: no row changes.
+// Books made before the program's own table get it, empty, when they open; books made before
+// its index of receipt numbers get that index. No row changes.
 bool addOwnTables(Database &db)
 {
     return !db.texts(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name = 'makbuz'"))
