@@ -135,22 +135,23 @@ bool DeletePosting(PostingBook book, qint64 oto)
 {
     if (!PostingExists(book, oto))
         return false;
+    const bool accounts = book == PostingBook::Accounts;
     Database &db = *dataFiles().db;
-    const QString column = book == PostingBook::Accounts ? QStringLiteral("carhar") : QStringLiteral("defter");
-    const QStringList rows
-        = db.texts(QStringLiteral("SELECT carhar || ' ' || defter FROM makbuz WHERE ettn IS NOT NULL AND %1 = %2")
-                       .arg(column)
-                       .arg(oto));
-    if (rows.isEmpty())
+    Statement imported(db.handle(),
+        QStringLiteral("SELECT carhar, defter FROM makbuz WHERE ettn IS NOT NULL AND %1 = ?1")
+            .arg(accounts ? QStringLiteral("carhar") : QStringLiteral("defter")));
+    if (!imported.bind(1, oto) || !imported.next())
         return RsDelete(table(book));
-    const QStringList otos = rows.first().split(u' ');
+    const qint64 ledger = imported.columnInteger(1);
+    const qint64 other = accounts ? ledger : imported.columnInteger(0);
+    imported.reset();
     Backups::beforeChange();
     if (!db.run(QStringLiteral("BEGIN IMMEDIATE")))
         return false;
     const bool removed = RsDelete(table(book))
-        && SqlExecute(db, QStringLiteral("DELETE FROM carhar WHERE oto = ?1"), { otos.value(0).toLongLong() })
-        && SqlExecute(db, QStringLiteral("DELETE FROM defter WHERE oto = ?1"), { otos.value(1).toLongLong() })
-        && SqlExecute(db, QStringLiteral("DELETE FROM makbuz WHERE defter = ?1"), { otos.value(1).toLongLong() });
+        && SqlExecute(
+            db, QStringLiteral("DELETE FROM %1 WHERE oto = ?1").arg(accounts ? u"defter" : u"carhar"), { other })
+        && SqlExecute(db, QStringLiteral("DELETE FROM makbuz WHERE defter = ?1"), { ledger });
     if (removed && db.run(QStringLiteral("COMMIT")))
         return true;
     db.run(QStringLiteral("ROLLBACK"));

@@ -19,18 +19,19 @@
 
 #include <QSet>
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
-// The first new document with an amount the books would round (they keep the decimals "TL Onda"
-// gives them), or nullptr: a document is posted exactly as issued or not at all.
+// The first new document with an amount the books would not keep as it is (they keep the
+// decimals "TL Onda" gives them), or nullptr: a document is posted exactly as issued or not at all.
 const EsmmRow *roundedByTheBooks(const std::vector<EsmmRow> &rows)
 {
     for (const EsmmRow &row : rows) {
         const EsmmDocument &d = row.document;
         if (row.status == EsmmStatus::New)
             for (const Currency amount : { d.gross, d.stopaj, d.kdv, d.withheld, AmountDue(d) })
-                if (RoundAmount(amount) != amount)
+                if (KeptAmount(amount) != amount)
                     return &row;
     }
     return nullptr;
@@ -76,13 +77,12 @@ QString mismatch(const EsmmDocument &d)
     if (d.gross <= Currency())
         return QStringLiteral("brüt ücret yok");
     if (d.lineTaxes) {
-        const std::pair<const char *, Currency> sums[] = { { "stopajı", d.lineTaxes->stopaj },
-            { "KDV'si", d.lineTaxes->kdv }, { "tevkifatı", d.lineTaxes->withheld } };
-        const Currency own[] = { d.stopaj, d.kdv, d.withheld };
-        for (int i = 0; i < 3; ++i)
-            if (apart(own[i], sums[i].second))
+        const std::tuple<const char *, Currency, Currency> taxes[] = { { "stopajı", d.stopaj, d.lineTaxes->stopaj },
+            { "KDV'si", d.kdv, d.lineTaxes->kdv }, { "tevkifatı", d.withheld, d.lineTaxes->withheld } };
+        for (const auto &[what, own, lines] : taxes)
+            if (apart(own, lines))
                 return QStringLiteral("belgenin %1 %2, satırlarınki %3")
-                    .arg(QString::fromUtf8(sums[i].first), EsmmAmountText(own[i]), EsmmAmountText(sums[i].second));
+                    .arg(QString::fromUtf8(what), EsmmAmountText(own), EsmmAmountText(lines));
     }
     // The VAT withheld is its share (in percent) of the VAT.
     const Currency share = Currency::fromRaw(d.kdv.raw() * d.withheldPercent / 100);
