@@ -16,6 +16,7 @@
 namespace {
 
 const QString namePattern = QStringLiteral("xsmm-*.dat");
+constexpr int keptLatest = 10;
 constexpr int keptDays = 10;
 constexpr int keptMonths = 12;
 
@@ -115,8 +116,11 @@ QStringList surplus(const QStringList &names, QDate today)
     const QDate firstMonth = QDate(today.year(), today.month(), 1).addMonths(1 - keptMonths);
     std::set<QDate> days;
     std::set<QString> months, kept;
+    int copies = 0;
     for (auto name = sorted.crbegin(); name != sorted.crend(); ++name) {
         const QDate day = dayOf(*name);
+        if (day.isValid() && ++copies <= keptLatest) // the latest, such as the one before a file's upgrade
+            kept.insert(*name);
         const bool newestOfDay = day.isValid() && days.insert(day).second;
         if (!day.isValid() || (newestOfDay && days.size() <= size_t(keptDays))) // a name not ours stays
             kept.insert(*name);

@@ -19,9 +19,9 @@ bool make(Database &db);
 void beforeChange();
 // The newest copy's path, or "" when there is none.
 QString newest();
-// Of the copies' file names, those to remove: all but the newest of each of the last ten days
-// that have one and the newest of each of the twelve months up to `today`, however many copies
-// a day has. A name that does not read as a copy's is never removed.
+// Of the copies' file names, those to remove: all but the ten newest, the newest of each of the
+// last ten days that have one (however many copies a day has) and the newest of each of the
+// twelve months up to `today`. A name that does not read as a copy's is never removed.
 QStringList surplus(const QStringList &names, QDate today);
 
 } // namespace Backups

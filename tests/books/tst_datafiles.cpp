@@ -396,19 +396,19 @@ private slots:
             months << QStringLiteral("xsmm-%1-100000.dat").arg(first.toString(QStringLiteral("yyyy-MM-dd")))
                    << QStringLiteral("xsmm-%1-180000.dat").arg(first.toString(QStringLiteral("yyyy-MM-dd")));
         }
-        // Aug 2025 to Oct 2026, two a month: the later copy of each month from Dec 2025 stays (the
-        // last ten days with copies lie in it); the rest goes.
+        // Aug 2025 to Oct 2026, two a month: the ten newest (Jun 2026 on) and the later copy of each
+        // month from Dec 2025 stay; the rest of the older months go.
         QStringList removed;
         for (int month = 0; month < 15; ++month)
             if (month < 4)
                 removed << months.at(2 * month) << months.at(2 * month + 1);
-            else
+            else if (month < 10)
                 removed << months.at(2 * month);
         QTest::newRow("fifteen months") << months << removed;
         QStringList today = days.mid(9) << u"xsmm-kendi.dat"_s; // five earlier days, and a file not ours
         for (int run = 0; run < 12; ++run)
             today << QStringLiteral("xsmm-2026-11-20-1%1.dat").arg(run, 5, 10, QLatin1Char('0'));
-        QTest::newRow("twelve copies of one day") << today << today.mid(6, 11);
+        QTest::newRow("twelve copies of one day") << today << today.mid(6, 2); // the earlier days' copies stay
     }
 
     void oldCopiesAreThinnedOut()
